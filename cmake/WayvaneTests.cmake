@@ -13,39 +13,46 @@ file(CONFIGURE OUTPUT "${wayvane_offscreen_config}" CONTENT [=[
 }
 ]=] @ONLY)
 
-# wayvane_test_environment(test... [XCB]): the same surroundings for every test that opens real windows, whoever runs it.
-function(wayvane_test_environment)
-  cmake_parse_arguments(PARSE_ARGV 0 arg "XCB" "" "")
-  set(home "${PROJECT_BINARY_DIR}/home")
-  file(MAKE_DIRECTORY ${home}/config ${home}/data ${home}/cache ${home}/state ${home}/runtime)
-  file(CHMOD ${home}/runtime PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
+# wayvane_test_environment(test [XCB]): the same surroundings for a test that opens real windows, whoever runs it
+# and wherever: its own home, no session bus, no desktop settings, and a screen of a known size.
+function(wayvane_test_environment test)
   set(platform "offscreen:configfile=${wayvane_offscreen_config}")
-  if(arg_XCB)
+  if("XCB" IN_LIST ARGN)
     set(platform xcb)
   endif()
-  set_tests_properties(${arg_UNPARSED_ARGUMENTS} PROPERTIES
-    TIMEOUT ${wayvane_test_timeout}
-    ENVIRONMENT_MODIFICATION "QT_QPA_PLATFORM=set:${platform};QT_QPA_PLATFORMTHEME=unset:;QT_STYLE_OVERRIDE=set:fusion;\
-QT_ACCESSIBILITY=set:1;QT_SCALE_FACTOR=unset:;QT_PLUGIN_PATH=unset:;QT_LOGGING_RULES=unset:;\
-WAYLAND_DISPLAY=unset:;XDG_CURRENT_DESKTOP=unset:;DBUS_SESSION_BUS_ADDRESS=set:unix:path=/dev/null;\
-LC_ALL=set:C.UTF-8;LANG=set:C.UTF-8;LANGUAGE=unset:;TZ=set:UTC;\
-XDG_CONFIG_HOME=set:${home}/config;XDG_DATA_HOME=set:${home}/data;XDG_CACHE_HOME=set:${home}/cache;\
-XDG_STATE_HOME=set:${home}/state;XDG_RUNTIME_DIR=set:${home}/runtime;\
-LSAN_OPTIONS=set:suppressions=${PROJECT_SOURCE_DIR}/tests/leaks-of-others.txt")
+  set(home "${PROJECT_BINARY_DIR}/test-homes/${test}")
+  set(environment
+    QT_QPA_PLATFORM=set:${platform} QT_STYLE_OVERRIDE=set:fusion QT_ACCESSIBILITY=set:1
+    LC_ALL=set:C.UTF-8 LANG=set:C.UTF-8 TZ=set:UTC
+    DBUS_SESSION_BUS_ADDRESS=set:unix:path=/dev/null
+    HOME=set:${home} XDG_CONFIG_HOME=set:${home}/config XDG_DATA_HOME=set:${home}/data
+    XDG_CACHE_HOME=set:${home}/cache XDG_STATE_HOME=set:${home}/state XDG_RUNTIME_DIR=set:${home}/runtime
+    # The toolkit and the libraries below it keep memory until the end; a run by hand that looks for leaks
+    # all the same passes over those.
+    ASAN_OPTIONS=set:detect_leaks=0
+    LSAN_OPTIONS=set:suppressions=${PROJECT_SOURCE_DIR}/tests/leaks-of-others.txt)
+  foreach(variable QT_QPA_PLATFORMTHEME QT_SCALE_FACTOR QT_FONT_DPI QT_PLUGIN_PATH QT_LOGGING_RULES QT_IM_MODULE
+                   WAYLAND_DISPLAY XDG_CURRENT_DESKTOP XDG_SESSION_TYPE XMODIFIERS LANGUAGE)
+    list(APPEND environment ${variable}=unset:)
+  endforeach()
+  set_tests_properties(${test} PROPERTIES TIMEOUT ${wayvane_test_timeout} ENVIRONMENT_MODIFICATION "${environment}")
 endfunction()
 
-# wayvane_add_test(name target label [XCB]): one executable, one test. Under xcb it gets an X server of its own.
+# wayvane_add_test(name target label [XCB]): one executable is one test. Live ones see their environment fresh in every
+# run, and under xcb an X server of their own.
 function(wayvane_add_test name target label)
   set(command $<TARGET_FILE:${target}>)
   if("XCB" IN_LIST ARGN)
-    add_test(NAME ${name} COMMAND xvfb-run -a -s "-screen 0 1920x1200x24" ${command})
-  else()
-    add_test(NAME ${name} COMMAND ${command})
+    list(PREPEND command xvfb-run -a -s "-screen 0 1920x1200x24")
   endif()
+  if(label STREQUAL "live")
+    list(PREPEND command "${PROJECT_SOURCE_DIR}/tests/support/in-fresh-home")
+  endif()
+  add_test(NAME ${name} COMMAND ${command})
   set_tests_properties(${name} PROPERTIES LABELS ${label} TIMEOUT ${wayvane_test_timeout})
   if(label STREQUAL "live")
-    # Real time passes in these: they get the machine to themselves.
     wayvane_test_environment(${name} ${ARGN})
+    # Real time passes in these: they get the machine to themselves.
     set_tests_properties(${name} PROPERTIES RUN_SERIAL ON)
   endif()
 endfunction()
