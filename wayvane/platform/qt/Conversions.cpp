@@ -1,0 +1,201 @@
+#include <wayvane/platform/qt/Conversions.h>
+
+#include <QApplication>
+#include <QFontDatabase>
+#include <QPalette>
+#include <QScreen>
+#include <QWidget>
+
+#include <algorithm>
+#include <cmath>
+
+namespace wayvane::qt {
+
+using platform::Point;
+using platform::Rect;
+
+namespace {
+
+/// Where the framework's screen space has its origin, in Qt's global coordinates.
+QPointF screenOrigin()
+{
+  const QScreen* primary = QGuiApplication::primaryScreen();
+  if (!primary) return {};
+  const QRect geometry = primary->geometry();
+  return QPointF(geometry.x(), geometry.y() + geometry.height());
+}
+
+QStringView viewOf(std::u16string_view text)
+{
+  return {text.data(), static_cast<qsizetype>(text.size())};
+}
+
+/// Visits the characters of a caption that are shown, until the visitor answers false.
+template <class Visitor>
+bool visitShown(QStringView caption, Visitor visit)
+{
+  for (qsizetype i = 0; i < caption.size(); ++i) {
+    // "(&S)" is how languages without Latin letters show a mnemonic: all of it goes.
+    if (caption[i] == u'(' && i + 3 < caption.size() && caption[i + 1] == u'&' && caption[i + 2] != u'&' &&
+        caption[i + 3] == u')') {
+      i += 3;
+      continue;
+    }
+    if (caption[i] == u'&' && ++i >= caption.size()) break;
+    if (!visit(caption[i])) return false;
+  }
+  return true;
+}
+
+} // namespace
+
+std::string toUtf8(QStringView text)
+{
+  const QByteArray bytes = text.toUtf8();
+  return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
+}
+
+QString toQString(std::string_view utf8)
+{
+  return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+std::optional<std::string> toOptional(QStringView text)
+{
+  if (text.isEmpty()) return std::nullopt;
+  return toUtf8(text);
+}
+
+bool equals(QStringView text, const platform::SearchText& wanted)
+{
+  return wanted.isValid() && text == viewOf(wanted.utf16());
+}
+
+QString withoutMnemonic(const QString& caption)
+{
+  if (!caption.contains(u'&')) return caption;
+  QString result;
+  result.reserve(caption.size());
+  visitShown(caption, [&](QChar c) {
+    result.append(c);
+    return true;
+  });
+  return caption.contains(QLatin1String("(&")) ? result.trimmed() : result;
+}
+
+bool captionEquals(QStringView caption, const platform::SearchText& wanted)
+{
+  if (!caption.contains(u'&')) return equals(caption, wanted);
+  if (caption.contains(QLatin1String("(&"))) return equals(withoutMnemonic(caption.toString()), wanted);
+  const QStringView shown = viewOf(wanted.utf16());
+  qsizetype at = 0;
+  const bool all = visitShown(caption, [&](QChar c) { return at < shown.size() && shown[at++] == c; });
+  return all && at == shown.size() && wanted.isValid();
+}
+
+Point toPoint(QPointF point)
+{
+  return {point.x(), point.y()};
+}
+
+Rect toRect(const QRectF& rect)
+{
+  return {rect.x(), rect.y(), rect.width(), rect.height()};
+}
+
+QPointF toQPointF(Point point)
+{
+  return {point.x, point.y};
+}
+
+QRectF toQRectF(const Rect& rect)
+{
+  return {rect.x, rect.y, rect.width, rect.height};
+}
+
+QRect toQRect(const Rect& rect)
+{
+  return toQRectF(rect).toAlignedRect();
+}
+
+Rect screenRectFromGlobal(const QRectF& global)
+{
+  const QPointF origin = screenOrigin();
+  return {global.x() - origin.x(), origin.y() - global.y() - global.height(), global.width(),
+          global.height()};
+}
+
+QRectF globalFromScreenRect(const Rect& rect)
+{
+  const QPointF origin = screenOrigin();
+  return {rect.x + origin.x(), origin.y() - rect.y - rect.height, rect.width, rect.height};
+}
+
+Point screenPointFromGlobal(QPointF global)
+{
+  const QPointF origin = screenOrigin();
+  return {global.x() - origin.x(), origin.y() - global.y()};
+}
+
+QPointF globalFromScreenPoint(Point point)
+{
+  const QPointF origin = screenOrigin();
+  return {point.x + origin.x(), origin.y() - point.y};
+}
+
+Rect windowRectFromWidget(const QRectF& rect, const QWidget& window)
+{
+  return {rect.x(), window.height() - rect.y() - rect.height(), rect.width(), rect.height()};
+}
+
+QRectF widgetRectFromWindow(const Rect& rect, const QWidget& window)
+{
+  return {rect.x, window.height() - rect.y - rect.height, rect.width, rect.height};
+}
+
+Point windowPointFromWidget(QPointF point, const QWidget& window)
+{
+  return {point.x(), window.height() - point.y()};
+}
+
+QPointF widgetPointFromWindow(Point point, const QWidget& window)
+{
+  return {point.x, window.height() - point.y};
+}
+
+QColor toQColor(const platform::Rgba& components)
+{
+  const auto channel = [](double value) { return static_cast<float>(std::clamp(value, 0.0, 1.0)); };
+  return QColor::fromRgbF(channel(components.red), channel(components.green), channel(components.blue),
+                          channel(components.alpha));
+}
+
+QColor toQColor(const platform::Color& color, platform::Appearance appearance)
+{
+  return toQColor(color.resolved(appearance));
+}
+
+QFont toQFont(const platform::Font& font)
+{
+  using Face = platform::Font::Face;
+  using Weight = platform::Font::Weight;
+  // Digits of one width: the general face's figures are tabular nearly everywhere, and there is no way to
+  // ask.
+  QFont result = QFontDatabase::systemFont(font.face == Face::Monospaced ? QFontDatabase::FixedFont
+                                                                         : QFontDatabase::GeneralFont);
+  result.setPixelSize(std::max(1, static_cast<int>(std::lround(font.size))));
+  result.setWeight(font.weight == Weight::Bold     ? QFont::Bold
+                   : font.weight == Weight::Medium ? QFont::Medium
+                                                   : QFont::Normal);
+  return result;
+}
+
+platform::Appearance appearanceOf(const QWidget* widget)
+{
+  const QPalette palette = widget ? widget->palette() : QGuiApplication::palette();
+  const bool dark =
+      palette.color(QPalette::WindowText).lightness() > palette.color(QPalette::Window).lightness();
+  return dark ? platform::Appearance::Dark : platform::Appearance::Light;
+}
+
+} // namespace wayvane::qt
