@@ -138,6 +138,8 @@ public:
 
   [[nodiscard]] const Color& strokeColor() const { return strokeColor_; }
 
+  /// The stroke is centred on the outline, with butt ends. Joins are mitred as long as the tip stays within
+  /// the line width of the outline (60 degrees), and cut off when sharper.
   void setLineWidth(double width);
 
   [[nodiscard]] double lineWidth() const { return lineWidth_; }
@@ -182,7 +184,10 @@ private:
     : kind_(kind)
   {}
 
-  void resizeForBounds(const Rect& oldBounds);
+  template <class Value>
+  void assign(Value& member, const Value& value);
+  [[nodiscard]] bool isSelfOrAncestor(const Layer& layer) const;
+  void resizeForBounds(const Rect& oldFrame);
 
   LayerKind kind_;
   Layer* superlayer_ = nullptr;

@@ -30,12 +30,13 @@ void removeFinishedAnimations(Layer& root, double time);
 /// layers, layers of opacity 0 that are not fading and animations that rest on their end value do not count.
 [[nodiscard]] double nextVisibleChange(const Layer& root, double time);
 
-/// The map from the layer's own coordinates (after geometryFlipped) to the coordinates of the root's frame, y
-/// up, with animated transforms applied.
+/// The map from the layer's own coordinates (after geometryFlipped) to root coordinates, with animated
+/// transforms applied. Root coordinates start at the bottom left of the tree's topmost layer, y up, whether
+/// or not that layer is flipped.
 [[nodiscard]] Transform transformToRoot(const Layer& layer, double time);
 
 /// The box in root coordinates (y up) that the layer and its sublayers paint at `time`, shadow and stroke
-/// included; the zero rectangle when nothing is painted.
+/// included; the zero rectangle when nothing is painted. Superlayers are not asked whether they hide it.
 [[nodiscard]] Rect paintedBounds(const Layer& layer, double time);
 
 } // namespace wayvane::platform

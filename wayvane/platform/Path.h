@@ -2,6 +2,7 @@
 
 #include <wayvane/platform/Geometry.h>
 
+#include <optional>
 #include <vector>
 
 namespace wayvane::platform {
@@ -20,10 +21,12 @@ public:
   };
 
   void moveTo(Point p);
+  /// Begins the path when it is empty, as do cubicTo (with its first control) and arcTo (with its corner).
   void lineTo(Point p);
   void cubicTo(Point control1, Point control2, Point end);
   /// A line to the start of, and then along, the arc of `radius` that touches the lines current point-corner
-  /// and corner-next; the current point ends where the arc touches the second line.
+  /// and corner-next; the current point ends where the arc touches the second line. A line to the corner
+  /// where no arc can touch both: the points lie on one line, or the radius is not positive.
   void arcTo(Point corner, Point next, double radius);
   void close();
   void addRect(const Rect& rect);
@@ -34,6 +37,9 @@ public:
   [[nodiscard]] const std::vector<Element>& elements() const { return elements_; }
 
   [[nodiscard]] bool isEmpty() const { return elements_.empty(); }
+
+  /// Where the next element starts; nothing in an empty path.
+  [[nodiscard]] std::optional<Point> currentPoint() const;
 
   /// The box around all points including control points; the zero rectangle for an empty path.
   [[nodiscard]] Rect bounds() const;

@@ -59,8 +59,14 @@ public:
   /// For bindings: marks the view as a panel's content view, the root of what is shown.
   void setIsContentView(bool isContentView);
 
+protected:
+  /// A view over a layer of another kind than the plain one.
+  SurfaceView(const Rect& frame, bool flipped, LayerKind kind);
+
 private:
   void notifyMoved();
+  [[nodiscard]] bool isSelfOrAncestor(const SurfaceView& view) const;
+
   LayerHandle layer_;
   SurfaceView* superview_ = nullptr;
   std::vector<std::shared_ptr<SurfaceView>> subviews_;
