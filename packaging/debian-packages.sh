@@ -7,7 +7,7 @@ packages_of() {
     build)   echo g++ cmake ninja-build nlohmann-json3-dev ;;
     qt)      echo qt6-base-dev fonts-dejavu-core ;;
     test)    echo libgtest-dev libgmock-dev xvfb xauth xdotool openbox ;;
-    bench)   echo libbenchmark-dev pkg-config ;;
+    bench)   echo libbenchmark-dev ;;
     tools)   echo clang clang-tidy clang-format ccache ;;
     # Programs that nobody here wrote, as hosts.
     foreign) echo designer-qt6 linguist-qt6 assistant-qt6 ;;
