@@ -1,0 +1,340 @@
+#include <wayvane/model/RecordErrors.h>
+#include <wayvane/model/RecordReader.h>
+
+#include <nlohmann/json.hpp>
+
+#include <array>
+#include <cmath>
+#include <limits>
+#include <type_traits>
+
+namespace wayvane {
+namespace {
+
+/// A value that is neither an array nor an object.
+using Scalar = std::variant<std::monostate, bool, std::int64_t, std::uint64_t, double, std::string*>;
+
+std::int64_t saturated(double number)
+{
+  constexpr double end = 9223372036854775808.0;
+  if (std::isnan(number)) return 0;
+  if (number >= end) return std::numeric_limits<std::int64_t>::max();
+  if (number < -end) return std::numeric_limits<std::int64_t>::min();
+  return static_cast<std::int64_t>(number);
+}
+
+template <class Number>
+std::int64_t toInteger(Number number)
+{
+  if constexpr (std::is_same_v<Number, double>)
+    return saturated(number);
+  else if constexpr (std::is_same_v<Number, std::uint64_t>)
+    return number > std::uint64_t{std::numeric_limits<std::int64_t>::max()}
+               ? std::numeric_limits<std::int64_t>::max()
+               : static_cast<std::int64_t>(number);
+  else
+    return static_cast<std::int64_t>(number);
+}
+
+/// Builds records while the parser walks over the document. Every value is met with a slot that says where
+/// it belongs; what has no slot is passed over.
+class Handler final : public nlohmann::json_sax<nlohmann::json> {
+public:
+  template <class Record>
+  Handler(RecordForm form, Record& root)
+    : form_(form)
+    , slot_(Place<Record>{&root})
+    , root_(true)
+  {}
+
+  [[nodiscard]] bool foundRecord() const { return foundRecord_; }
+
+  [[nodiscard]] const std::optional<Error>& error() const { return error_; }
+
+  bool null() override { return scalar({}); }
+
+  bool boolean(bool flag) override { return scalar(flag); }
+
+  bool number_integer(number_integer_t number) override { return scalar(std::int64_t{number}); }
+
+  bool number_unsigned(number_unsigned_t number) override { return scalar(std::uint64_t{number}); }
+
+  bool number_float(number_float_t number, const string_t&) override { return scalar(double{number}); }
+
+  bool string(string_t& text) override { return scalar(&text); }
+
+  bool binary(binary_t&) override { return false; }
+
+  bool key(string_t& name) override
+  {
+    if (passedOver_ == 0) std::visit([&](auto place) { choose(place, name); }, open_[opened_ - 1]);
+    return true;
+  }
+
+  bool start_object(std::size_t) override
+  {
+    return enter() && std::visit([this](auto place) { return beginObject(place); }, std::exchange(slot_, {}));
+  }
+
+  bool start_array(std::size_t) override
+  {
+    return enter() && std::visit([this](auto place) { return beginArray(place); }, std::exchange(slot_, {}));
+  }
+
+  bool end_object() override { return leave(); }
+
+  bool end_array() override { return leave(); }
+
+  bool parse_error(std::size_t, const std::string&, const nlohmann::detail::exception& exception) override
+  {
+    constexpr std::size_t longest = 500;
+    error_ = Error{"json", exception.id, std::string(exception.what()).substr(0, longest), {}};
+    return false;
+  }
+
+private:
+  /// Where a value belongs. As a slot, what the next value is for; as an opened place, what the keys that
+  /// follow are of.
+  template <class Value>
+  struct Place {
+    Value* value = nullptr;
+    /// What the field says when it says nothing.
+    std::conditional_t<std::is_arithmetic_v<Value>, Value, std::monostate> fallback{};
+  };
+
+  struct Entry {
+    LocalizationDictionary* dictionary = nullptr;
+    std::string key;
+  };
+
+  struct Element {
+    std::vector<WVStep>* steps = nullptr;
+  };
+
+  struct Nowhere {};
+
+  using Text = std::optional<std::string>;
+  using Dictionary = std::optional<LocalizationDictionary>;
+  using Slot = std::variant<Nowhere, Place<WVGuide>, Place<WVStep>, Place<WVTargetDescriptor>, Place<Text>,
+                            Place<Dictionary>, Place<std::int64_t>, Place<double>, Place<bool>,
+                            Place<std::vector<WVStep>>, Element, Entry>;
+  using Opened = std::variant<Nowhere, Place<WVGuide>, Place<WVStep>, Place<WVTargetDescriptor>,
+                              Place<Dictionary>, Place<std::vector<WVStep>>>;
+
+  // Keys: which slot comes next
+
+  template <class Value>
+  void choose(Place<Value> place, std::string& name)
+  {
+    slot_ = Nowhere{};
+    if constexpr (std::is_same_v<Value, Dictionary>)
+      slot_ = Entry{&**place.value, std::move(name)};
+    else if constexpr (!std::is_same_v<Value, std::vector<WVStep>>)
+      for (const RecordField<Value>& field : fieldsOf(*place.value))
+        if (field.key == name && (!field.archiveOnly || form_ == RecordForm::Archive)) {
+          std::visit([&](auto member) { slot_ = placeOf(*place.value, member); }, field.member);
+          return;
+        }
+  }
+
+  void choose(Nowhere, const std::string&) {}
+
+  template <class Record, class Value>
+  Place<Value> placeOf(Record& record, Value Record::*member)
+  {
+    Place<Value> place{&(record.*member)};
+    if constexpr (std::is_arithmetic_v<Value>) place.fallback = blank<Record>().*member;
+    return place;
+  }
+
+  /// A record without a single key. In archives, unlike everywhere else, the row of a target is then 0.
+  template <class Record>
+  [[nodiscard]] Record blank() const
+  {
+    Record record;
+    if constexpr (std::is_same_v<Record, WVTargetDescriptor>)
+      if (form_ == RecordForm::Archive) record.tableRow = 0;
+    return record;
+  }
+
+  // Values
+
+  bool scalar(Scalar value)
+  {
+    if (root_) return fail(notAnObjectError());
+    if (passedOver_ > 0) return true;
+    std::visit([&](auto& place) { assign(place, value); }, slot_);
+    return true;
+  }
+
+  void assign(Place<Text>& place, const Scalar& value)
+  {
+    if (auto* const* text = std::get_if<std::string*>(&value))
+      *place.value = std::move(**text);
+    else
+      place.value->reset();
+  }
+
+  void assign(Entry& entry, const Scalar& value)
+  {
+    if (auto* const* text = std::get_if<std::string*>(&value))
+      entry.dictionary->insert_or_assign(std::move(entry.key), std::move(**text));
+    else
+      entry.dictionary->erase(entry.key);
+  }
+
+  template <class Value>
+  void assign(Place<Value>& place, const Scalar& value)
+  {
+    if constexpr (std::is_arithmetic_v<Value>)
+      *place.value = numberIn(value, place.fallback);
+    else
+      *place.value = Value{};
+  }
+
+  void assign(const Element&, const Scalar&) {}
+
+  void assign(const Nowhere&, const Scalar&) {}
+
+  template <class Value>
+  [[nodiscard]] static Value numberIn(const Scalar& value, Value fallback)
+  {
+    return std::visit(
+        [&](auto scalar) -> Value {
+          if constexpr (!std::is_arithmetic_v<decltype(scalar)>)
+            return fallback;
+          else if constexpr (std::is_same_v<Value, bool>)
+            return scalar != 0;
+          else if constexpr (std::is_same_v<Value, std::int64_t>)
+            return toInteger(scalar);
+          else
+            return static_cast<double>(scalar);
+        },
+        value);
+  }
+
+  // Arrays and objects
+
+  bool enter()
+  {
+    if (++depth_ > kRecordNestingLimit) return fail(nestedTooDeeplyError());
+    return true;
+  }
+
+  bool leave()
+  {
+    --depth_;
+    if (passedOver_ > 0)
+      --passedOver_;
+    else
+      open_[--opened_] = Nowhere{};
+    slot_ = Nowhere{};
+    if (opened_ > 0 && passedOver_ == 0)
+      if (const auto* steps = std::get_if<Place<std::vector<WVStep>>>(&open_[opened_ - 1]))
+        slot_ = Element{steps->value};
+    return true;
+  }
+
+  bool passOver()
+  {
+    ++passedOver_;
+    return true;
+  }
+
+  template <class Value>
+  bool opens(Place<Value> place)
+  {
+    root_ = false;
+    open_[opened_++] = place;
+    return true;
+  }
+
+  template <class Record>
+  requires std::is_class_v<decltype(fieldsOf(std::declval<Record>()))>
+
+  bool beginObject(Place<Record> place)
+  {
+    if (root_) foundRecord_ = true;
+    *place.value = blank<Record>();
+    return opens(place);
+  }
+
+  bool beginObject(Place<Dictionary> place)
+  {
+    place.value->emplace();
+    return opens(place);
+  }
+
+  bool beginObject(Element element)
+  {
+    element.steps->emplace_back();
+    return opens(Place<WVStep>{&element.steps->back()});
+  }
+
+  template <class Other>
+  bool beginObject(Other other)
+  {
+    return wrongKind(other);
+  }
+
+  bool beginArray(Place<std::vector<WVStep>> place)
+  {
+    place.value->clear();
+    slot_ = Element{place.value};
+    return opens(place);
+  }
+
+  template <class Other>
+  bool beginArray(Other other)
+  {
+    return wrongKind(other);
+  }
+
+  template <class Other>
+  bool wrongKind(Other& other)
+  {
+    if (root_) return fail(notAnObjectError());
+    if (passedOver_ == 0) assign(other, {});
+    return passOver();
+  }
+
+  bool fail(Error error)
+  {
+    error_ = std::move(error);
+    return false;
+  }
+
+  /// A guide, its steps, a step, its target, a dictionary: no record is nested deeper.
+  std::array<Opened, 5> open_;
+  std::size_t opened_ = 0;
+  RecordForm form_;
+  Slot slot_;
+  bool root_ = false;
+  bool foundRecord_ = false;
+  int depth_ = 0;
+  int passedOver_ = 0;
+  std::optional<Error> error_;
+};
+
+} // namespace
+
+template <class Record>
+std::optional<Record> readRecord(std::string_view bytes, RecordForm form, Error* error)
+{
+  try {
+    Record record;
+    Handler handler(form, record);
+    if (nlohmann::json::sax_parse(bytes.begin(), bytes.end(), &handler) && handler.foundRecord())
+      return record;
+    platform::setError(error, handler.error().value_or(notAnObjectError()));
+  } catch (const std::exception& exception) {
+    platform::setError(error, outOfMemoryError(exception));
+  }
+  return std::nullopt;
+}
+
+template std::optional<WVGuide> readRecord(std::string_view, RecordForm, Error*);
+template std::optional<WVStep> readRecord(std::string_view, RecordForm, Error*);
+template std::optional<WVTargetDescriptor> readRecord(std::string_view, RecordForm, Error*);
+
+} // namespace wayvane
