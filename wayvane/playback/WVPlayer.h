@@ -5,7 +5,6 @@
 #include <wayvane/playback/WVPlayerWindow.h>
 
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -117,8 +116,6 @@ public:
   [[nodiscard]] bool menuStepActive() const { return menuStepActive_; }
 
 private:
-  friend class WVPlayerProbe;
-
   /// Completing and Stopping last while the delegate is told, and keep it from causing the same end twice.
   enum class Phase : std::uint8_t { Idle, Playing, Completing, Stopping };
   enum class Outcome : std::uint8_t { Settled, Skipped };
@@ -133,15 +130,6 @@ private:
     [[nodiscard]] WVPlayer* playerIfSameStep() const;
   };
 
-  /// The highlight of a step, in screen and in overlay coordinates.
-  struct Highlight {
-    platform::ViewHandle view;
-    platform::Rect screenRect;
-    platform::Rect overlayRect;
-    double padding = 0;
-    double cornerRadius = 6;
-  };
-
   [[nodiscard]] Ticket ticket() const { return {life_, run_, attempt_}; }
 
   [[nodiscard]] std::uint64_t stepCount() const;
@@ -151,32 +139,25 @@ private:
   // Sequencing
   void _showCurrentStep();
   Outcome _attemptCurrentStep();
-  Outcome _showResolvedStep(const WVStep& step);
+  void _showResolvedStep(const WVStep& step, const platform::ViewHandle& view);
   void _leaveCurrentTarget() const;
   void _dismissBubble();
   void _tearDown();
-  void _tearDownOverlay();
 
   // Overlay
   void _setupOverlay();
-  void _makeOverlayViews();
-  void _observeEvents();
+  void _makeOverlayViews(const WVPlayerWindow& overlay);
+  void _observeEvents(platform::Events& events);
   void _attachOverlayToWindow(const platform::WindowHandle& window);
   void _followResize(const platform::WindowHandle& window);
 
   // Presenting
-  void _ensureViewIsVisible(const platform::ViewHandle& view, bool animated,
-                            std::function<void()> completion);
   void _presentStep(const WVStep& step, const platform::ViewHandle& viewBeforeScrolling);
-  void _highlight(const WVStep& step, const Highlight& highlight);
-  void _applyHighlightStyle(std::int64_t style, const platform::Rect& rect, double cornerRadius);
-  void _showBubble(const WVStep& step, const platform::Rect& overlayRect, std::int64_t position);
-  [[nodiscard]] platform::Rect _localRectOfTarget(const WVStep& step, const platform::View& view) const;
-  [[nodiscard]] std::int64_t _automaticPositionForTargetRect(const platform::Rect& rect) const;
-  [[nodiscard]] platform::Rect _bubbleFrameForTargetRect(const platform::Rect& rect, std::int64_t position,
-                                                         platform::Size size) const;
-  static void _simulateMouseEnterForView(const platform::ViewHandle& view, const platform::Rect& screenRect);
-  static void _simulateMouseExitForView(const platform::ViewHandle& view);
+  void _showHighlightAndBubble(const WVStep& step, const platform::View& view);
+  [[nodiscard]] std::shared_ptr<WVBubbleView>
+  _makeBubble(const WVStep& step, const platform::Rect& overlayRect, std::int64_t position) const;
+  void _highlight(std::int64_t style, const platform::Rect& rect, double cornerRadius);
+  void _showBubble(const std::shared_ptr<WVBubbleView>& bubble);
   void _hideBubbleImmediately();
 
   // Clicks
