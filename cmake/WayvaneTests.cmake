@@ -1,4 +1,12 @@
 find_package(GTest REQUIRED)
+
+# ccache does better without.
+set(pch ON)
+if(CMAKE_CXX_COMPILER_LAUNCHER OR CMAKE_CXX_CLANG_TIDY)
+  set(pch OFF)
+endif()
+option(WAYVANE_TEST_PCH "Precompile the headers of GoogleTest for the tests" ${pch})
+
 set(wayvane_test_timeout 300)
 
 # Where programs under test find their screen: one large enough for a main window and its neighbours.
@@ -57,11 +65,25 @@ function(wayvane_add_test name target label)
   endif()
 endfunction()
 
+# Compiling a test takes far longer than running it, so what is only test code is not optimized.
+function(wayvane_test_compile_options target)
+  if(WAYVANE_SANITIZE OR CMAKE_BUILD_TYPE MATCHES "^Rel")
+    target_compile_options(${target} PRIVATE -O0)
+  endif()
+  target_compile_definitions(${target} PRIVATE WAYVANE_TESTS_DIR="${PROJECT_SOURCE_DIR}/tests")
+  # One way of addressing for all of them, or they could not share a precompiled header.
+  set_target_properties(${target} PROPERTIES POSITION_INDEPENDENT_CODE OFF)
+endfunction()
+
 # wayvane_test_executable(name SOURCES file... LINKS target...)
 function(wayvane_test_executable name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINKS")
   add_executable(${name} ${arg_SOURCES})
   # The folder's own libraries come first: a main() of theirs wins over the plain one of the test support.
   target_link_libraries(${name} PRIVATE ${arg_LINKS} wayvane_test_support GTest::gmock wayvane_warnings)
-  target_compile_definitions(${name} PRIVATE WAYVANE_TESTS_DIR="${PROJECT_SOURCE_DIR}/tests")
+  wayvane_test_compile_options(${name})
+  # Qt brings compiler settings of its own, which no precompiled header survives.
+  if(WAYVANE_TEST_PCH AND NOT arg_LINKS MATCHES "Qt|live")
+    target_precompile_headers(${name} REUSE_FROM wayvane_test_support)
+  endif()
 endfunction()
