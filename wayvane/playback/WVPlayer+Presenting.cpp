@@ -137,11 +137,7 @@ void WVPlayer::_showBubble(const std::shared_ptr<WVBubbleView>& bubble)
 {
   currentBubble_ = bubble;
   bubble->appearAtPoint(bubble->frame().origin(), overlayWindow_->contentView(), {});
-  const auto shownText = [](const std::shared_ptr<platform::SurfaceLabel>& label) {
-    return label->isHidden() ? std::string() : label->stringValue();
-  };
-  overlayWindow_->showAccessibleAlert({shownText(bubble->titleLabel()), shownText(bubble->messageLabel()),
-                                       shownText(bubble->stepLabel()), bubble->frame()});
+  overlayWindow_->showAccessibleAlert(bubble->accessibleAlert());
 }
 
 void WVPlayer::_hideBubbleImmediately()
