@@ -14,8 +14,9 @@ int main(int argc, char** argv)
   window.setWindowTitle(QStringLiteral("Minimal"));
   window.menuBar()->addMenu(QStringLiteral("&Help"));
   auto* button = new QPushButton(QStringLiteral("Greet"));
-  button->setObjectName(QStringLiteral("greetButton"));  // a name is the clue that a guide holds on to best
-  QObject::connect(button, &QPushButton::clicked, &window, [button] { button->setText(QStringLiteral("Hello")); });
+  button->setObjectName(QStringLiteral("greetButton")); // a name is the clue that a guide holds on to best
+  QObject::connect(button, &QPushButton::clicked, &window,
+                   [button] { button->setText(QStringLiteral("Hello")); });
   window.setCentralWidget(button);
   window.show();
 
