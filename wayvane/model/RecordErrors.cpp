@@ -31,6 +31,11 @@ platform::Error notFiniteError(std::string_view field)
   return jsonError(-4, platform::format("The number of \"%@\" is not finite", {field}));
 }
 
+platform::Error tooManyStepsError()
+{
+  return jsonError(-6, "The guide has too many steps");
+}
+
 platform::Error outOfMemoryError(const std::exception& exception)
 {
   return jsonError(-5, platform::format("The document could not be held: %@", {exception.what()}));

@@ -14,6 +14,7 @@ namespace wayvane {
 [[nodiscard]] platform::Error nestedTooDeeplyError();
 [[nodiscard]] platform::Error invalidUtf8Error(std::string_view field);
 [[nodiscard]] platform::Error notFiniteError(std::string_view field);
+[[nodiscard]] platform::Error tooManyStepsError();
 [[nodiscard]] platform::Error outOfMemoryError(const std::exception& exception);
 /// Domain "WVGuide": files were asked for before a binding was installed.
 [[nodiscard]] platform::Error noPlatformError();

@@ -267,6 +267,7 @@ private:
 
   bool beginObject(Element element)
   {
+    if (element.steps->size() == kRecordStepLimit) return fail(tooManyStepsError());
     element.steps->emplace_back();
     return opens(Place<WVStep>{&element.steps->back()});
   }
