@@ -1,5 +1,6 @@
 #include <tests/desktop/Raster.h>
-#include <tests/desktop/RasterShapes.h>#include <wayvane/platform/LayerEvaluator.h>
+#include <tests/desktop/RasterShapes.h>
+#include <wayvane/platform/LayerEvaluator.h>
 
 #include <algorithm>
 #include <array>
