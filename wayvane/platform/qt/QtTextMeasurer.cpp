@@ -1,0 +1,11 @@
+#include <wayvane/platform/qt/QtTextLayout.h>
+#include <wayvane/platform/qt/QtTextMeasurer.h>
+
+namespace wayvane::qt {
+
+platform::Size QtTextMeasurer::sizeOfText(const platform::AttributedText& text, double width) const
+{
+  return QtTextLayout(text, width, platform::Appearance::Light).size();
+}
+
+} // namespace wayvane::qt
