@@ -43,7 +43,7 @@ struct OverDamped {
   OverDamped(const Motion& motion, double velocity)
     : slow(-motion.decay + std::sqrt(motion.discriminant))
     , fast(-motion.decay - std::sqrt(motion.discriminant))
-    , slowShare((-velocity + fast) / (slow - fast))
+    , slowShare((velocity + fast) / (slow - fast))
     , fastShare(-1 - slowShare)
   {}
 };
