@@ -3,6 +3,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <limits>
@@ -10,9 +11,6 @@
 
 namespace wayvane {
 namespace {
-
-/// A value that is neither an array nor an object.
-using Scalar = std::variant<std::monostate, bool, std::int64_t, std::uint64_t, double, std::string*>;
 
 std::int64_t saturated(double number)
 {
@@ -23,17 +21,18 @@ std::int64_t saturated(double number)
   return static_cast<std::int64_t>(number);
 }
 
-template <class Number>
-std::int64_t toInteger(Number number)
+/// A number or flag as another kind of one.
+template <class Value, class Number>
+Value converted(Number number)
 {
-  if constexpr (std::is_same_v<Number, double>)
+  if constexpr (std::is_same_v<Value, bool>)
+    return number != Number{};
+  else if constexpr (std::is_same_v<Value, std::int64_t> && std::is_same_v<Number, double>)
     return saturated(number);
-  else if constexpr (std::is_same_v<Number, std::uint64_t>)
-    return number > std::uint64_t{std::numeric_limits<std::int64_t>::max()}
-               ? std::numeric_limits<std::int64_t>::max()
-               : static_cast<std::int64_t>(number);
+  else if constexpr (std::is_same_v<Value, std::int64_t> && std::is_same_v<Number, std::uint64_t>)
+    return static_cast<std::int64_t>(std::min<Number>(number, std::numeric_limits<std::int64_t>::max()));
   else
-    return static_cast<std::int64_t>(number);
+    return static_cast<Value>(number);
 }
 
 /// Builds records while the parser walks over the document. Every value is met with a slot that says where
@@ -51,7 +50,7 @@ public:
 
   [[nodiscard]] const std::optional<Error>& error() const { return error_; }
 
-  bool null() override { return scalar({}); }
+  bool null() override { return scalar(nullptr); }
 
   bool boolean(bool flag) override { return scalar(flag); }
 
@@ -159,59 +158,56 @@ private:
 
   // Values
 
+  template <class Scalar>
   bool scalar(Scalar value)
   {
     if (root_) return fail(notAnObjectError());
-    if (passedOver_ > 0) return true;
-    std::visit([&](auto& place) { assign(place, value); }, slot_);
+    if (passedOver_ == 0) std::visit([&](auto& place) { assign(place, value); }, slot_);
     return true;
   }
 
-  void assign(Place<Text>& place, const Scalar& value)
+  template <class Value, class Scalar>
+  void assign(Place<Value>& place, Scalar value)
   {
-    if (auto* const* text = std::get_if<std::string*>(&value))
-      *place.value = std::move(**text);
+    if constexpr (std::is_arithmetic_v<Value> && std::is_arithmetic_v<Scalar>)
+      *place.value = converted<Value>(value);
+    else if constexpr (std::is_same_v<Value, Text> && std::is_same_v<Scalar, std::string*>)
+      *place.value = std::move(*value);
     else
-      place.value->reset();
+      clear(place);
   }
 
-  void assign(Entry& entry, const Scalar& value)
+  template <class Scalar>
+  void assign(Entry& entry, Scalar value)
   {
-    if (auto* const* text = std::get_if<std::string*>(&value))
-      entry.dictionary->insert_or_assign(std::move(entry.key), std::move(**text));
+    if constexpr (std::is_same_v<Scalar, std::string*>)
+      entry.dictionary->insert_or_assign(std::move(entry.key), std::move(*value));
     else
-      entry.dictionary->erase(entry.key);
+      clear(entry);
   }
+
+  template <class Scalar>
+  void assign(const Element&, Scalar)
+  {}
+
+  template <class Scalar>
+  void assign(const Nowhere&, Scalar)
+  {}
 
   template <class Value>
-  void assign(Place<Value>& place, const Scalar& value)
+  static void clear(const Place<Value>& place)
   {
     if constexpr (std::is_arithmetic_v<Value>)
-      *place.value = numberIn(value, place.fallback);
+      *place.value = place.fallback;
     else
       *place.value = Value{};
   }
 
-  void assign(const Element&, const Scalar&) {}
+  static void clear(const Entry& entry) { entry.dictionary->erase(entry.key); }
 
-  void assign(const Nowhere&, const Scalar&) {}
+  static void clear(const Element&) {}
 
-  template <class Value>
-  [[nodiscard]] static Value numberIn(const Scalar& value, Value fallback)
-  {
-    return std::visit(
-        [&](auto scalar) -> Value {
-          if constexpr (!std::is_arithmetic_v<decltype(scalar)>)
-            return fallback;
-          else if constexpr (std::is_same_v<Value, bool>)
-            return scalar != 0;
-          else if constexpr (std::is_same_v<Value, std::int64_t>)
-            return toInteger(scalar);
-          else
-            return static_cast<double>(scalar);
-        },
-        value);
-  }
+  static void clear(const Nowhere&) {}
 
   // Arrays and objects
 
@@ -295,7 +291,7 @@ private:
   bool wrongKind(Other& other)
   {
     if (root_) return fail(notAnObjectError());
-    if (passedOver_ == 0) assign(other, {});
+    if (passedOver_ == 0) clear(other);
     return passOver();
   }
 
