@@ -31,7 +31,10 @@ public:
   /// The window in front at a point of the screen; null when there is none. Those that ignore the mouse do
   /// not count.
   [[nodiscard]] std::shared_ptr<Window> windowAt(platform::Point screenPoint) const;
+  /// In front of all windows of its level, or right above `below`.
   void bringToFront(const std::shared_ptr<Window>& window);
+  void putAbove(const std::shared_ptr<Window>& window, const platform::WindowHandle& below);
+  /// Leaves the window out of the lists; another one takes its place as main and key window.
   void forget(const Window& window);
 
   ClassTable classes;

@@ -21,6 +21,8 @@ public:
   /// Runs what is due now and was so when the call began.
   void runTurn();
   [[nodiscard]] std::size_t pendingCount() const;
+  /// Forgets what has not run.
+  void clear();
 
 private:
   struct Work {

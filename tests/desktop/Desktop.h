@@ -156,7 +156,7 @@ public:
   // Alerts
 
   /// Queues the answer to an alert to come. One that nobody answers fails the test and ends with -1.
-  void answerNextAlert(int button, const std::string& fieldText = {});
+  void answerNextAlert(int button, Text fieldText = {});
 
   [[nodiscard]] const std::vector<platform::AlertSpec>& alerts() const { return panels_->alerts; }
 
@@ -181,11 +181,17 @@ public:
 
   [[nodiscard]] TextMeasurer& textMeasurer() { return textMeasurer_; }
 
+  /// Windows report what happened to them.
+  void windowMoved(const Window& window, double dx, double dy);
+  void windowRaised(const Window& window);
+  void windowClosed(const std::shared_ptr<Window>& window);
+
   /// Keeps the memory of a view that is gone, so that a test's references to it stay usable.
   void bury(std::shared_ptr<View> view) { buried_.push_back(std::move(view)); }
 
 private:
   platform::MouseEvent eventAt(platform::MouseEvent::Type type, platform::Point screenPoint) const;
+  ClickResult press(const platform::MouseEvent& event);
   void closePopoversOutside(const platform::WindowHandle& pressed);
 
   Clock clock_;
@@ -198,6 +204,7 @@ private:
   Application application_;
   std::shared_ptr<Panels> panels_;
   std::unique_ptr<platform::Platform> platform_;
+  platform::Platform* previous_;
   std::vector<SentAction> sentActions_;
   std::vector<std::shared_ptr<View>> buried_;
   std::vector<std::shared_ptr<Menu>> contextMenus_;

@@ -45,8 +45,10 @@ public:
 
 private:
   friend class Menu;
+  void die();
   platform::MenuItemSpec spec_;
   bool ours_;
+  bool alive_ = true;
   int timesChosen_ = 0;
   std::shared_ptr<Menu> submenu_;
   std::weak_ptr<Menu> menu_;

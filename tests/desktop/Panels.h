@@ -53,6 +53,12 @@ public:
   void showAccessibleAlert(const platform::AccessibleAlert& alert) override;
   void hideAccessibleAlert() override;
 
+  /// What befalls the window it is attached to.
+  [[nodiscard]] bool isChildOf(const Window& window) const { return parent_.get() == &window; }
+
+  void parentMoved(double dx, double dy);
+  void parentClosed();
+
 private:
   std::weak_ptr<Panels> panels_;
   PanelWindow window_;
@@ -134,7 +140,6 @@ public:
   bool pressButton(const std::string& title);
   bool pressKey(platform::PopoverButton::Key key);
 
-  /// Lets the next `show` be impossible.
   bool show(const platform::WindowHandle& window, const platform::Rect& anchor) override;
   void close() override;
 
@@ -154,6 +159,13 @@ private:
   bool shown_ = false;
   std::string focused_;
   std::map<std::string, std::string> texts_;
+  std::shared_ptr<const bool> life_ = std::make_shared<const bool>(true);
+};
+
+/// An answer to come; without a text the alert's field keeps its value.
+struct QueuedAnswer {
+  int button = -1;
+  Text fieldText;
 };
 
 /// Makes the panels and knows those that live, in the order in which they were made.
@@ -175,7 +187,7 @@ public:
   std::vector<Popover*> popovers;
   /// Popovers cannot be shown.
   bool refusesPopovers = false;
-  std::deque<platform::AlertAnswer> answers;
+  std::deque<QueuedAnswer> answers;
   std::vector<platform::AlertSpec> alerts;
   /// Runs while the alert is up. May queue its answer.
   std::function<void(const platform::AlertSpec&)> onAlert;

@@ -13,6 +13,16 @@ struct TableRow {
   std::vector<platform::AccessibilityChild> accessibilityChildren{};
 };
 
+/// A cell that draws a text.
+[[nodiscard]] inline platform::TableCell drawnCell(std::string text, Text action = {}, Text label = {})
+{
+  platform::TableCell cell;
+  cell.stringValue = std::move(text);
+  cell.action = std::move(action);
+  cell.accessibilityLabel = std::move(label);
+  return cell;
+}
+
 class TableCellView : public View, public platform::TableCellView {
 public:
   TableCellView(Desktop& desktop, const ClassInfo& info, const platform::Rect& frame,
@@ -69,6 +79,9 @@ public:
   /// Lets `modelObjectOfRow` answer.
   void setKnowsModelsOfDrawnRows(bool knows) { knowsModels_ = knows; }
 
+  /// Keeps the table as high as its rows, as the document of a scroll view.
+  void setFitsRows(bool fits);
+
   /// The height that all rows take.
   [[nodiscard]] double contentHeight() const;
 
@@ -102,6 +115,7 @@ private:
 
   [[nodiscard]] bool hasRow(int row) const;
   [[nodiscard]] bool hasColumn(int column) const;
+  void rowsChanged();
   void dropViews();
   View* makeRowView(int row);
 
@@ -109,6 +123,7 @@ private:
   double rowHeight_;
   bool viewBased_;
   bool knowsModels_ = false;
+  bool fitsRows_ = false;
   std::vector<TableRow> rows_;
   std::vector<RowViews> views_;
   CellMaker makeCell_;

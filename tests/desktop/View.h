@@ -98,6 +98,8 @@ public:
   /// Its place on the screen, and the middle of it.
   [[nodiscard]] platform::Rect screenFrame() const;
   [[nodiscard]] platform::Point screenCenter() const;
+  /// What the views around it leave of it; the zero rectangle when it is not shown.
+  [[nodiscard]] platform::Rect visibleScreenFrame() const;
 
   // platform::View
 
@@ -181,6 +183,9 @@ protected:
 private:
   friend class Window;
   void adoptView(std::shared_ptr<View> child);
+  void detach();
+  [[nodiscard]] const View* hit(platform::Point locationInWindow) const;
+  [[nodiscard]] const ClassInfo& classFor(const std::string& name, std::string_view base) const;
   [[nodiscard]] platform::Point toParent(platform::Point point) const;
   [[nodiscard]] platform::Point fromParent(platform::Point point) const;
   [[nodiscard]] platform::Rect toParent(const platform::Rect& rect) const;

@@ -45,6 +45,11 @@ public:
 
   void setIgnoresMouse(bool ignores) { ignoresMouse_ = ignores; }
 
+  /// Windows of a higher level always lie in front of those of a lower one. The program's have 0.
+  void setLevel(int level) { level_ = level; }
+
+  [[nodiscard]] int level() const { return level_; }
+
   [[nodiscard]] bool ignoresMouse() const { return ignoresMouse_; }
 
   void addToolbarItem(const ToolbarItemOptions& item);
@@ -77,6 +82,7 @@ private:
   bool visible_ = false;
   bool utility_ = false;
   bool ignoresMouse_ = false;
+  int level_ = 0;
   std::shared_ptr<View> frameView_;
   View* content_ = nullptr;
   View* toolbar_ = nullptr;
