@@ -1,6 +1,6 @@
 #include <wayvane/model/RecordErrors.h>
 #include <wayvane/model/RecordWriter.h>
-#include <wayvane/model/Utf8.h>
+#include <wayvane/platform/Utf8.h>
 
 #include <array>
 #include <charconv>
@@ -135,7 +135,7 @@ private:
 
   void string(std::string_view text)
   {
-    if (!isValidUtf8(text)) return fail(invalidUtf8Error(field_));
+    if (!platform::isValidUtf8(text)) return fail(invalidUtf8Error(field_));
     out_ += '"';
     std::size_t written = 0;
     for (std::size_t at = 0; at < text.size(); ++at) {
