@@ -1,8 +1,8 @@
 #pragma once
 
 #include <wayvane/model/LocalizationDictionary.h>
-#include <wayvane/model/Utf8.h>
 #include <wayvane/model/WVTargetDescriptor.h>
+#include <wayvane/platform/Utf8.h>
 #include <wayvane/platform/View.h>
 
 #include <optional>
@@ -14,15 +14,16 @@ namespace wayvane::capture {
 /// A text as it may be kept in a descriptor: one that is no UTF-8 could never be saved, so it is left out.
 [[nodiscard]] inline std::optional<std::string> clue(std::optional<std::string> text)
 {
-  if (text && !isValidUtf8(*text)) return std::nullopt;
+  if (text && !platform::isValidUtf8(*text)) return std::nullopt;
   return text;
 }
 
 [[nodiscard]] inline std::optional<LocalizationDictionary> clue(std::optional<LocalizationDictionary> texts)
 {
   if (!texts) return texts;
-  std::erase_if(*texts,
-                [](const auto& entry) { return !isValidUtf8(entry.first) || !isValidUtf8(entry.second); });
+  std::erase_if(*texts, [](const auto& entry) {
+    return !platform::isValidUtf8(entry.first) || !platform::isValidUtf8(entry.second);
+  });
   return texts->empty() ? std::nullopt : std::move(texts);
 }
 
