@@ -7,6 +7,7 @@
 #include <cmath>
 #include <cstdint>
 #include <iterator>
+#include <utility>
 
 namespace wayvane::sim {
 
@@ -27,24 +28,38 @@ struct Canvas {
 
   void paint(const Coverage& coverage, const Rgba& color)
   {
-    for (std::size_t i = 0; i < pixels.size(); ++i) {
+    if (color.alpha <= 0) return;
+    const auto [first, last] = pixelsOfRows(coverage.top, coverage.bottom);
+    for (std::size_t i = first; i < last; ++i) {
       const double alpha = std::min(1.0, coverage.values[i]) * color.alpha;
-      const std::array<double, 4> source{color.red * alpha, color.green * alpha, color.blue * alpha, alpha};
-      blend(pixels[i], source);
+      if (alpha > 0) blend(pixels[i], {color.red * alpha, color.green * alpha, color.blue * alpha, alpha});
     }
   }
 
   void paint(const Canvas& other)
   {
     for (std::size_t i = 0; i < pixels.size(); ++i)
-      blend(pixels[i], other.pixels[i]);
+      if (other.pixels[i][3] > 0) blend(pixels[i], other.pixels[i]);
   }
 
   void multiply(const Coverage& coverage)
   {
     for (std::size_t i = 0; i < pixels.size(); ++i)
-      for (double& component : pixels[i])
-        component *= std::clamp(coverage.values[i], 0.0, 1.0);
+      if (coverage.values[i] < 1) multiply(pixels[i], std::max(0.0, coverage.values[i]));
+  }
+
+  static void multiply(std::array<double, 4>& pixel, double factor)
+  {
+    for (double& component : pixel)
+      component *= factor;
+  }
+
+  [[nodiscard]] std::pair<std::size_t, std::size_t> pixelsOfRows(int top, int bottom) const
+  {
+    const auto first = [&](int row) {
+      return static_cast<std::size_t>(row) * static_cast<std::size_t>(width);
+    };
+    return {first(top), first(bottom)};
   }
 
   static void blend(std::array<double, 4>& below, const std::array<double, 4>& above)
@@ -58,7 +73,9 @@ struct Canvas {
 Coverage blurred(Coverage source, int radius, bool alongX)
 {
   Coverage result(source.width, source.height);
-  for (int y = 0; y < source.height; ++y)
+  result.top = std::max(0, source.top - (alongX ? 0 : radius));
+  result.bottom = std::min(source.height, source.bottom + (alongX ? 0 : radius));
+  for (int y = result.top; y < result.bottom; ++y)
     for (int x = 0; x < source.width; ++x) {
       double sum = 0;
       for (int i = -radius; i <= radius; ++i) {
@@ -120,6 +137,7 @@ struct Renderer {
   {
     if (!values.path) return;
     canvas.paint(fill(layer, *values.path, layer.fillRule()), layer.fillColor().resolved(appearance));
+    if (layer.strokeColor().isClear()) return;
     std::vector<Polyline> pieces;
     for (const Polyline& line : flattened(*values.path))
       for (const Polyline& dash : dashed(line, layer.lineDashPattern(), values.lineDashPhase))
@@ -164,11 +182,17 @@ struct Renderer {
       canvas.paint(fill(layer, box(layer), FillRule::NonZero), layer.backgroundColor().resolved(appearance));
     if (layer.kind() == LayerKind::Shape) drawShape(canvas, layer, values);
     if (layer.kind() == LayerKind::Text) drawText(canvas, layer);
+    if (!layer.masksToBounds()) return drawSublayers(canvas, layer);
     Canvas inside(width, height);
-    for (const LayerHandle& sublayer : layer.sublayers())
-      draw(inside, *sublayer);
-    if (layer.masksToBounds()) inside.multiply(fill(layer, box(layer), FillRule::NonZero));
+    drawSublayers(inside, layer);
+    inside.multiply(fill(layer, box(layer), FillRule::NonZero));
     canvas.paint(inside);
+  }
+
+  void drawSublayers(Canvas& canvas, const Layer& layer) const
+  {
+    for (const LayerHandle& sublayer : layer.sublayers())
+      draw(canvas, *sublayer);
   }
 
   void draw(Canvas& canvas, const Layer& layer) const
@@ -176,6 +200,7 @@ struct Renderer {
     PresentedValues values;
     evaluateLayer(layer, time, values);
     if (layer.isHidden() || values.opacity <= 0) return;
+    if (!layer.mask() && values.opacity >= 1) return drawContents(canvas, layer, values);
     Canvas own(width, height);
     drawContents(own, layer, values);
     if (layer.mask()) own.multiply(stencil(*layer.mask()));

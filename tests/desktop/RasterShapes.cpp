@@ -91,8 +91,9 @@ Coverage filled(const std::vector<Polyline>& shapes, FillRule rule, int width, i
       top = std::min(top, p.y);
       bottom = std::max(bottom, p.y);
     }
-  const int last = static_cast<int>(std::min<double>(height, std::ceil(bottom)));
-  for (int y = std::max(0, static_cast<int>(std::floor(top))); y < last; ++y)
+  coverage.top = static_cast<int>(std::clamp<double>(std::floor(top), 0, height));
+  coverage.bottom = static_cast<int>(std::clamp<double>(std::ceil(bottom), coverage.top, height));
+  for (int y = coverage.top; y < coverage.bottom; ++y)
     for (int sub = 0; sub < kSubRows; ++sub) {
       const auto crossings = crossingsAt(shapes, y + (sub + 0.5) / kSubRows);
       int winding = 0;

@@ -13,11 +13,14 @@ using Polyline = std::vector<platform::Point>;
 /// How much of each pixel a shape covers, 0 to 1.
 struct Coverage {
   int width, height;
+  /// The rows that may have any.
+  int top = 0, bottom;
   std::vector<double> values;
 
   Coverage(int w, int h, double value = 0)
     : width(w)
     , height(h)
+    , bottom(h)
     , values(static_cast<std::size_t>(w) * static_cast<std::size_t>(h), value)
   {}
 
