@@ -4,6 +4,8 @@
 #include <QFontDatabase>
 #include <QPalette>
 #include <QScreen>
+#include <QTextDocument>
+#include <QTextDocumentFragment>
 #include <QWidget>
 
 #include <algorithm>
@@ -91,6 +93,11 @@ bool captionEquals(QStringView caption, const platform::SearchText& wanted)
   qsizetype at = 0;
   const bool all = visitShown(caption, [&](QChar c) { return at < shown.size() && shown[at++] == c; });
   return all && at == shown.size() && wanted.isValid();
+}
+
+QString withoutMarkup(const QString& text)
+{
+  return Qt::mightBeRichText(text) ? QTextDocumentFragment::fromHtml(text).toPlainText() : text;
 }
 
 Point toPoint(QPointF point)

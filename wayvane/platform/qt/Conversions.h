@@ -38,6 +38,9 @@ namespace wayvane::qt {
 /// The same as `equals(withoutMnemonic(caption), wanted)`, without allocating.
 [[nodiscard]] bool captionEquals(QStringView caption, const platform::SearchText& wanted);
 
+/// The words of a text that may be rich text, as Qt guesses it; a plain one comes back as it is.
+[[nodiscard]] QString withoutMarkup(const QString& text);
+
 // Plain geometry: the axes stay as they are
 
 [[nodiscard]] platform::Point toPoint(QPointF point);

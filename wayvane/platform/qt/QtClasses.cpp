@@ -1,0 +1,214 @@
+#include <wayvane/platform/qt/QtClasses.h>
+
+#include <QtWidgets>
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <initializer_list>
+#include <memory>
+#include <vector>
+
+namespace wayvane::qt {
+
+using platform::ViewKind;
+
+namespace {
+
+constexpr std::uint32_t bits(std::initializer_list<ViewKind> kinds)
+{
+  std::uint32_t result = 0;
+  for (const ViewKind kind : kinds)
+    result |= 1U << static_cast<unsigned>(kind);
+  return result;
+}
+
+std::uint32_t kindsOf(Family family)
+{
+  switch (family) {
+  case Family::Plain:
+    return 0;
+  case Family::Control:
+    return bits({ViewKind::Control});
+  case Family::Button:
+    return bits({ViewKind::Control, ViewKind::Button});
+  case Family::PopUp:
+    return bits({ViewKind::Control, ViewKind::Button, ViewKind::PopUpButton});
+  case Family::Segmented:
+    return bits({ViewKind::Control, ViewKind::SegmentedControl});
+  case Family::Label:
+  case Family::LineEdit:
+  case Family::SpinBox:
+    return bits({ViewKind::Control, ViewKind::TextField});
+  case Family::Text:
+    return bits({ViewKind::Text, ViewKind::TextView});
+  case Family::Box:
+    return bits({ViewKind::Box});
+  case Family::Table:
+    return bits({ViewKind::Control, ViewKind::TableView, ViewKind::ScrollView});
+  case Family::ScrollArea:
+    return bits({ViewKind::ScrollView});
+  }
+  return 0;
+}
+
+struct FamilyRule {
+  const QMetaObject* metaObject;
+  Family family;
+};
+
+/// The first class that a widget's class is or inherits decides. A header is an item view to Qt, but to the
+/// user a row of buttons.
+const std::array kFamilyRules{
+    FamilyRule{&QHeaderView::staticMetaObject, Family::Control},
+    FamilyRule{&QAbstractItemView::staticMetaObject, Family::Table},
+    FamilyRule{&QScrollArea::staticMetaObject, Family::ScrollArea},
+    FamilyRule{&QTextEdit::staticMetaObject, Family::Text},
+    FamilyRule{&QPlainTextEdit::staticMetaObject, Family::Text},
+    FamilyRule{&QComboBox::staticMetaObject, Family::PopUp},
+    FamilyRule{&QTabBar::staticMetaObject, Family::Segmented},
+    FamilyRule{&QLineEdit::staticMetaObject, Family::LineEdit},
+    FamilyRule{&QAbstractSpinBox::staticMetaObject, Family::SpinBox},
+    FamilyRule{&QLabel::staticMetaObject, Family::Label},
+    FamilyRule{&QAbstractButton::staticMetaObject, Family::Button},
+    FamilyRule{&QGroupBox::staticMetaObject, Family::Box},
+    FamilyRule{&QAbstractSlider::staticMetaObject, Family::Control},
+    FamilyRule{&QKeySequenceEdit::staticMetaObject, Family::Control},
+};
+
+Family familyOf(const QMetaObject* metaObject)
+{
+  const auto* rule = std::find_if(kFamilyRules.begin(), kFamilyRules.end(),
+                                  [&](const FamilyRule& r) { return metaObject->inherits(r.metaObject); });
+  return rule == kFamilyRules.end() ? Family::Plain : rule->family;
+}
+
+bool isToolkitName(std::string_view name)
+{
+  return name.size() > 1 && name[0] == 'Q' && name[1] >= 'A' && name[1] <= 'Z';
+}
+
+bool declaresHostProperties(const QMetaObject* metaObject)
+{
+  for (int i = 0; i < metaObject->propertyCount(); ++i)
+    if (std::string_view(metaObject->property(i).name()).starts_with("wv_")) return true;
+  return false;
+}
+
+ClassInfo describe(const QMetaObject* metaObject)
+{
+  const std::string_view name = metaObject->className();
+  ClassInfo info;
+  info.metaObject = metaObject;
+  info.superClass = metaObject->superClass();
+  info.family = familyOf(metaObject);
+  info.kinds = kindsOf(info.family);
+  info.isOwn = name.starts_with("WV") || name.starts_with("wayvane::qt::");
+  info.isHost = !info.isOwn && !isToolkitName(name);
+  info.declaresHostProperties = declaresHostProperties(metaObject);
+  return info;
+}
+
+/// An open-addressed table from a class to what is known about it: one probe, nearly always.
+class ClassTable {
+public:
+  const ClassInfo& find(const QMetaObject* metaObject)
+  {
+    if (const ClassInfo* known = probe(metaObject)) return *known;
+    if (++count_ * 2 > slots_.size()) grow();
+    infos_.push_back(std::make_unique<ClassInfo>(describe(metaObject)));
+    place(infos_.back().get());
+    return *infos_.back();
+  }
+
+private:
+  [[nodiscard]] std::size_t first(const QMetaObject* metaObject) const
+  {
+    return (reinterpret_cast<std::uintptr_t>(metaObject) >> 4U) & (slots_.size() - 1);
+  }
+
+  [[nodiscard]] const ClassInfo* probe(const QMetaObject* metaObject) const
+  {
+    for (std::size_t i = first(metaObject); slots_[i]; i = (i + 1) & (slots_.size() - 1)) {
+      // A plug-in that was unloaded may have left its address to another class.
+      if (slots_[i]->metaObject == metaObject && slots_[i]->superClass == metaObject->superClass())
+        return slots_[i];
+    }
+    return nullptr;
+  }
+
+  void place(const ClassInfo* info)
+  {
+    std::size_t i = first(info->metaObject);
+    while (slots_[i])
+      i = (i + 1) & (slots_.size() - 1);
+    slots_[i] = info;
+  }
+
+  void grow()
+  {
+    slots_.assign(slots_.size() * 2, nullptr);
+    for (const auto& info : infos_)
+      place(info.get());
+  }
+
+  std::vector<const ClassInfo*> slots_ = std::vector<const ClassInfo*>(512, nullptr);
+  std::vector<std::unique_ptr<ClassInfo>> infos_;
+  std::size_t count_ = 0;
+};
+
+template <class... Widgets>
+constexpr std::array<const QMetaObject*, sizeof...(Widgets)> metaObjects()
+{
+  return {&Widgets::staticMetaObject...};
+}
+
+/// The toolkit's classes exist also while no widget of theirs does.
+const QMetaObject* toolkitClassNamed(std::string_view name)
+{
+  static const auto known =
+      metaObjects<QWidget, QAbstractButton, QAbstractItemView, QAbstractScrollArea, QAbstractSlider,
+                  QAbstractSpinBox, QCalendarWidget, QCheckBox, QColorDialog, QColumnView, QComboBox,
+                  QCommandLinkButton, QDateEdit, QDateTimeEdit, QDial, QDialog, QDialogButtonBox, QDockWidget,
+                  QDoubleSpinBox, QErrorMessage, QFileDialog, QFocusFrame, QFontComboBox, QFontDialog, QFrame,
+                  QGraphicsView, QGroupBox, QHeaderView, QInputDialog, QKeySequenceEdit, QLabel, QLCDNumber,
+                  QLineEdit, QListView, QListWidget, QMainWindow, QMdiArea, QMdiSubWindow, QMenu, QMenuBar,
+                  QMessageBox, QPlainTextEdit, QProgressBar, QProgressDialog, QPushButton, QRadioButton,
+                  QRubberBand, QScrollArea, QScrollBar, QSizeGrip, QSlider, QSpinBox, QSplashScreen,
+                  QSplitter, QSplitterHandle, QStackedWidget, QStatusBar, QTabBar, QTableView, QTableWidget,
+                  QTabWidget, QTextBrowser, QTextEdit, QTimeEdit, QToolBar, QToolBox, QToolButton, QTreeView,
+                  QTreeWidget, QUndoView, QWizard, QWizardPage>();
+  const auto* found =
+      std::find_if(known.begin(), known.end(), [&](const QMetaObject* m) { return name == m->className(); });
+  return found == known.end() ? nullptr : *found;
+}
+
+const QMetaObject* livingClassNamed(std::string_view name)
+{
+  std::vector<const QMetaObject*> seen;
+  for (const QWidget* widget : QApplication::allWidgets()) {
+    for (const QMetaObject* m = widget->metaObject(); m; m = m->superClass()) {
+      if (std::find(seen.begin(), seen.end(), m) != seen.end()) break;
+      if (name == m->className()) return m;
+      seen.push_back(m);
+    }
+  }
+  return nullptr;
+}
+
+} // namespace
+
+const ClassInfo& classInfo(const QMetaObject* metaObject)
+{
+  // Never destroyed: handles may be asked while the program ends.
+  static auto* const table = new ClassTable;
+  return table->find(metaObject);
+}
+
+const QMetaObject* classNamed(std::string_view name)
+{
+  const QMetaObject* toolkit = toolkitClassNamed(name);
+  return toolkit ? toolkit : livingClassNamed(name);
+}
+
+} // namespace wayvane::qt

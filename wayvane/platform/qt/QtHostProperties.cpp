@@ -1,0 +1,32 @@
+#include <wayvane/platform/qt/QtHostProperties.h>
+
+#include <QWidget>
+
+#include <algorithm>
+
+namespace wayvane::qt {
+
+bool carriesHostProperties(const QObject& object)
+{
+  const QList<QByteArray> names = object.dynamicPropertyNames();
+  return std::any_of(names.begin(), names.end(),
+                     [](const QByteArray& name) { return name.startsWith("wv_"); });
+}
+
+QVariant hostValue(const QWidget& widget, const ClassInfo& info, const char* name)
+{
+  if (!info.declaresHostProperties && !carriesHostProperties(widget)) return {};
+  return widget.property(name);
+}
+
+QVariant hostValue(const QObject& object, const char* name)
+{
+  return carriesHostProperties(object) ? object.property(name) : QVariant();
+}
+
+bool isGivenName(QStringView objectName)
+{
+  return !objectName.isEmpty() && !objectName.startsWith(u"qt_") && !objectName.startsWith(u"_q_");
+}
+
+} // namespace wayvane::qt

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <wayvane/platform/qt/QtClasses.h>
+
+#include <QString>
+#include <QVariant>
+
+class QObject;
+class QWidget;
+
+namespace wayvane::qt {
+
+/// Whether the object has dynamic properties of the host's for us ("wv_..."). Nanoseconds for those that have
+/// none.
+[[nodiscard]] bool carriesHostProperties(const QObject& object);
+/// The value of such a property, declared by the class or set dynamically; invalid when there is none.
+[[nodiscard]] QVariant hostValue(const QWidget& widget, const ClassInfo& info, const char* name);
+/// The same for objects of which only dynamic properties count.
+[[nodiscard]] QVariant hostValue(const QObject& object, const char* name);
+/// Whether somebody chose this object name; the toolkit's own ("qt_...", "_q_...") are as good as none.
+[[nodiscard]] bool isGivenName(QStringView objectName);
+
+} // namespace wayvane::qt
