@@ -1,0 +1,22 @@
+#include <wayvane/platform/qt/Conversions.h>
+#include <wayvane/platform/qt/QtBoxView.h>
+
+#include <QGroupBox>
+
+namespace wayvane::qt {
+
+using platform::ViewKind;
+
+std::string QtBoxView::title() const
+{
+  const auto* box = static_cast<const QGroupBox*>(widget());
+  return box ? toUtf8(withoutMnemonic(box->title())) : std::string();
+}
+
+const void* QtBoxView::role(ViewKind kind) const
+{
+  if (kind == ViewKind::Box) return static_cast<const platform::Box*>(this);
+  return QtView::role(kind);
+}
+
+} // namespace wayvane::qt

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <wayvane/platform/qt/QtView.h>
+
+namespace wayvane::qt {
+
+/// A QGroupBox.
+class QtBoxView : public QtView, private platform::Box {
+public:
+  using QtView::QtView;
+
+protected:
+  [[nodiscard]] std::string title() const override;
+  [[nodiscard]] const void* role(platform::ViewKind kind) const override;
+};
+
+} // namespace wayvane::qt
