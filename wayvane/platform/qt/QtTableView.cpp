@@ -1,0 +1,147 @@
+#include <wayvane/platform/qt/Conversions.h>
+#include <wayvane/platform/qt/ModelObjects.h>
+#include <wayvane/platform/qt/QtHostProperties.h>
+#include <wayvane/platform/qt/QtImage.h>
+#include <wayvane/platform/qt/QtItemViews.h>
+#include <wayvane/platform/qt/QtTableView.h>
+
+#include <QHeaderView>
+
+#include <cmath>
+
+namespace wayvane::qt {
+
+using platform::Point;
+using platform::Rect;
+using platform::ViewKind;
+
+QAbstractItemView* QtTableView::itemView() const
+{
+  return static_cast<QAbstractItemView*>(widget());
+}
+
+const void* QtTableView::role(ViewKind kind) const
+{
+  if (kind == ViewKind::TableView) return static_cast<const platform::TableView*>(this);
+  if (kind == ViewKind::ScrollView) return static_cast<const platform::ScrollView*>(this);
+  return QtControlView::role(kind);
+}
+
+// Rows and columns
+
+int QtTableView::numberOfRows() const
+{
+  const QAbstractItemView* view = itemView();
+  return view ? rows_.count(*view) : 0;
+}
+
+int QtTableView::numberOfColumns() const
+{
+  const QAbstractItemView* view = itemView();
+  return view ? shownColumnCount(*view) : 0;
+}
+
+QModelIndex QtTableView::indexAt(int column, int row) const
+{
+  const QAbstractItemView* view = itemView();
+  const int logical = view ? logicalColumn(*view, column) : -1;
+  return logical < 0 ? QModelIndex() : rows_.indexOfRow(*view, row).siblingAtColumn(logical);
+}
+
+namespace {
+
+QString headerText(const QAbstractItemModel& model, int column)
+{
+  for (const int role : {static_cast<int>(Qt::UserRole), static_cast<int>(Qt::DisplayRole)}) {
+    // A model without headers answers with the column's number, which names nothing.
+    const QVariant value = model.headerData(column, Qt::Horizontal, role);
+    if (value.typeId() == QMetaType::QString && !value.toString().isEmpty()) return value.toString();
+  }
+  return {};
+}
+
+} // namespace
+
+std::optional<std::string> QtTableView::identifierOfColumn(int column) const
+{
+  const QAbstractItemView* view = itemView();
+  const int logical = view ? logicalColumn(*view, column) : -1;
+  if (logical < 0) return std::nullopt;
+  const QStringList said = hostValue(*view, info(), "wv_columnIdentifiers").toStringList();
+  if (logical < said.size() && !said[logical].isEmpty()) return toUtf8(said[logical]);
+  return toOptional(headerText(*view->model(), logical));
+}
+
+QModelIndex QtTableView::indexAtPoint(Point point) const
+{
+  const QAbstractItemView* view = itemView();
+  if (!view || !view->model()) return {};
+  const QPointF inViewport = toQPointF(point) - scrollOffset(*view);
+  return view->indexAt(
+      {static_cast<int>(std::floor(inViewport.x())), static_cast<int>(std::floor(inViewport.y()))});
+}
+
+int QtTableView::rowAtPoint(Point point) const
+{
+  const QModelIndex index = indexAtPoint(point);
+  return index.isValid() ? rows_.rowOfIndex(*itemView(), index) : -1;
+}
+
+int QtTableView::columnAtPoint(Point point) const
+{
+  const QModelIndex index = indexAtPoint(point);
+  return index.isValid() ? shownColumn(*itemView(), index.column()) : -1;
+}
+
+// Cells
+
+platform::ViewHandle QtTableView::viewAtColumnRow(int column, int row,
+                                                  platform::MakeIfNecessary /*make*/) const
+{
+  const QModelIndex index = indexAt(column, row);
+  return index.isValid() ? viewForWidget(itemView()->indexWidget(index)) : nullptr;
+}
+
+QModelIndex QtTableView::indexHolding(const platform::View& view) const
+{
+  const QAbstractItemView* items = itemView();
+  const QWidget* cell = widgetOf(view);
+  while (items && cell && itemViewOfCell(*cell) != items)
+    cell = cell->isWindow() ? nullptr : cell->parentWidget();
+  return items && cell ? indexOfCell(*items, *cell) : QModelIndex();
+}
+
+int QtTableView::rowForView(const platform::View& view) const
+{
+  const QModelIndex index = indexHolding(view);
+  return index.isValid() ? rows_.rowOfIndex(*itemView(), index) : -1;
+}
+
+int QtTableView::columnForView(const platform::View& view) const
+{
+  const QModelIndex index = indexHolding(view);
+  return index.isValid() ? shownColumn(*itemView(), index.column()) : -1;
+}
+
+std::optional<platform::TableCell> QtTableView::preparedCell(int column, int row) const
+{
+  const QModelIndex index = indexAt(column, row);
+  if (!index.isValid()) return std::nullopt;
+  platform::TableCell cell;
+  cell.stringValue = toUtf8(index.data(Qt::DisplayRole).toString());
+  cell.accessibilityLabel = toOptional(index.data(Qt::AccessibleTextRole).toString());
+  const QVariant picture = index.data(Qt::DecorationRole);
+  if (picture.typeId() == QMetaType::QIcon) {
+    cell.image = QtImage::make(picture.value<QIcon>(), itemView()->iconSize());
+  } else if (picture.typeId() == QMetaType::QPixmap || picture.typeId() == QMetaType::QImage) {
+    cell.image = QtImage::make(picture.value<QPixmap>());
+  }
+  return cell;
+}
+
+platform::ModelObjectHandle QtTableView::modelObjectOfRow(int column, int row) const
+{
+  return modelObjectOfIndex(indexAt(column, row));
+}
+
+} // namespace wayvane::qt
