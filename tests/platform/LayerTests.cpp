@@ -1,3 +1,4 @@
+#include <tests/desktop/Desktop.h>
 #include <wayvane/platform/Layer.h>
 
 #include <gtest/gtest.h>
@@ -191,4 +192,20 @@ TEST(LayerObserver, HearsOfALayerThatLeaves)
   EXPECT_TRUE(root->takeChange());
   inner->setOpacity(0.1);
   EXPECT_FALSE(root->takeChange()) << "what left is no longer of interest";
+}
+
+TEST(Layer, StartsAnimationsAtTheMainQueuesTime)
+{
+  wayvane::sim::Desktop desktop;
+  desktop.advance(2.5);
+  const LayerHandle layer = Layer::make();
+  layer->addAnimation(fade(1), "fade");
+  EXPECT_EQ(layer->animationForKey("fade")->beginTime, desktop.now());
+}
+
+TEST(Layer, StartsAnimationsAtZeroWithoutAPlatform)
+{
+  const LayerHandle layer = Layer::make();
+  layer->addAnimation(fade(1), "fade");
+  EXPECT_EQ(layer->animationForKey("fade")->beginTime, 0);
 }

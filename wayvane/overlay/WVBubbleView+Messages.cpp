@@ -62,8 +62,7 @@ ImageHandle iconOf(const ViewHandle& view)
 std::string spokenIconMessage(const ViewHandle& view)
 {
   const std::string toolTip = toolTipOf(view);
-  const std::string label = view ? wv_accessibilityLabel(*view).value_or("") : "";
-  const std::string& name = label.empty() ? toolTip : label;
+  const std::string name = view ? wv_localizedTitle(*view).value_or("") : "";
   if (name.empty()) return clickToContinue();
   std::string spoken = format(clickOnIcon(), {name});
   if (!toolTip.empty() && toolTip != name) spoken += " (" + toolTip + ")";
