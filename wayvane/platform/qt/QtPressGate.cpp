@@ -1,0 +1,76 @@
+#include <wayvane/platform/qt/QtPressGate.h>
+
+#include <QMouseEvent>
+
+namespace wayvane::qt {
+
+using platform::EventVerdict;
+
+bool QtPressGate::holdsBack(const QMouseEvent& event, const Judge& judge)
+{
+  switch (event.type()) {
+  case QEvent::MouseButtonPress:
+  case QEvent::MouseButtonDblClick:
+    return event.button() == Qt::LeftButton && press(event, judge);
+  case QEvent::MouseMove:
+    return move(event, judge);
+  case QEvent::MouseButtonRelease:
+    return event.button() == Qt::LeftButton && release();
+  default:
+    return false;
+  }
+}
+
+const QtPressGate::Verdict* QtPressGate::known(const QMouseEvent& event) const
+{
+  for (const Verdict& verdict : presses_)
+    if (verdict.isOpen && verdict.timestamp == event.timestamp() &&
+        (verdict.position - event.globalPosition()).manhattanLength() < 2)
+      return &verdict;
+  return nullptr;
+}
+
+QtPressGate::Verdict& QtPressGate::remember(const QMouseEvent& event)
+{
+  const bool followsSwallowed = presses_[newest_].swallowed;
+  newest_ = (newest_ + 1) % presses_.size();
+  presses_[newest_] = {event.timestamp(), event.globalPosition(), false, followsSwallowed, true};
+  return presses_[newest_];
+}
+
+bool QtPressGate::press(const QMouseEvent& event, const Judge& judge)
+{
+  const bool isDouble = event.type() == QEvent::MouseButtonDblClick;
+  if (const Verdict* verdict = known(event))
+    return verdict->swallowed || (isDouble && verdict->followsSwallowed);
+  Verdict& verdict = remember(event);
+  const bool followsSwallowed = verdict.followsSwallowed;
+  // The judge may run an event loop, in which other presses are judged.
+  const bool swallowed = judge(event) == EventVerdict::Swallow;
+  if (verdict.timestamp == event.timestamp() && verdict.position == event.globalPosition())
+    verdict.swallowed = swallowed;
+  isSwallowing_ = swallowed || (isDouble && followsSwallowed);
+  return isSwallowing_;
+}
+
+bool QtPressGate::move(const QMouseEvent& event, const Judge& judge)
+{
+  if (event.buttons() != Qt::NoButton) return isSwallowing_ && event.buttons().testFlag(Qt::LeftButton);
+  if (move_.isOpen && move_.timestamp == event.timestamp() && move_.position == event.globalPosition())
+    return move_.swallowed;
+  move_ = {event.timestamp(), event.globalPosition(), false, false, event.timestamp() != 0};
+  move_.swallowed = judge(event) == EventVerdict::Swallow;
+  return move_.swallowed;
+}
+
+bool QtPressGate::release()
+{
+  // Events without a time of their own look all the same: theirs end with the release.
+  for (Verdict& verdict : presses_)
+    if (verdict.timestamp == 0) verdict.isOpen = false;
+  const bool swallows = isSwallowing_;
+  isSwallowing_ = false;
+  return swallows;
+}
+
+} // namespace wayvane::qt
