@@ -1,0 +1,22 @@
+#pragma once
+
+class QPainter;
+class QWidget;
+
+namespace wayvane::qt {
+
+/// Marks a widget as the framework's. One without a parent is deleted when the application object ends, even
+/// if its owner forgets it.
+void adopt(QWidget& widget);
+
+/// Hides a widget of ours and deletes it on a later turn: it may be in the middle of an event. Null is fine.
+void dispose(QWidget* widget);
+
+/// Lets a window of ours be used while the program shows a modal dialog, whichever and however many.
+void exemptFromModality(QWidget& window);
+
+/// Whether top-level windows of ours must not be of the kind that takes the keyboard: on platforms without a
+/// window manager a tool window becomes the active one however it is shown.
+[[nodiscard]] bool toolWindowsActivate();
+
+} // namespace wayvane::qt

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <wayvane/platform/Panels.h>
+
+#include <QPointer>
+
+namespace wayvane::qt {
+
+class QtPopoverWidget;
+
+class QtPopover final : public platform::Popover {
+public:
+  explicit QtPopover(platform::PopoverSpec spec);
+  /// A popover whose owner drops it vanishes without another word.
+  ~QtPopover() override;
+
+  bool show(const platform::WindowHandle& window, const platform::Rect& anchor) override;
+  void close() override;
+  [[nodiscard]] bool isShown() const override;
+  [[nodiscard]] std::string text(const std::string& fieldIdentifier) const override;
+  void focusField(const std::string& fieldIdentifier) override;
+  [[nodiscard]] platform::WindowHandle window() const override;
+
+private:
+  void press(std::size_t button);
+
+  platform::PopoverSpec spec_;
+  QPointer<QtPopoverWidget> widget_;
+  bool isShown_ = false;
+};
+
+} // namespace wayvane::qt
