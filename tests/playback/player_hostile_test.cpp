@@ -5,28 +5,40 @@
 namespace wayvane {
 namespace {
 
+struct Seen {
+  int highlights = 0, scrolls = 0, prompts = 0, completions = 0, destructions = 0;
+};
+
 /// A program whose views and windows vanish at any moment while a careless user clicks about and a careless
 /// host calls the player. Every round is decided by its number alone.
 class HostileRound : public PlayerFixture {
 public:
-  void play(unsigned round)
+  void play(unsigned round, Seen& seen)
   {
     random_.seed(round);
     buildProgram();
-    desktop.setOnAlert([this](const platform::AlertSpec&) {
+    desktop.setOnAlert([this, &seen](const platform::AlertSpec&) {
+      ++seen.prompts;
       if (chance(2)) act();
       desktop.answerNextAlert(below(3) - 1);
     });
     delegate->onShow = [this](std::uint64_t) { misbehave(); };
-    delegate->onComplete = [this] { misbehave(); };
+    delegate->onComplete = [this, &seen] {
+      ++seen.completions;
+      misbehave();
+    };
     delegate->onSkip = [this] { misbehave(); };
     player->playGuide(randomGuide());
     for (int actions = 0; actions < 25; ++actions) {
       act();
       desktop.advance(below(12) * 0.1);
+      if (player && player->currentBubble()) ++seen.highlights;
     }
     delegate->onShow = nullptr;
     delegate->onComplete = delegate->onSkip = nullptr;
+    if (!player) ++seen.destructions;
+    for (const sim::ScrollView* const scroll : scrollViews_)
+      seen.scrolls += static_cast<int>(scroll->requests().size());
     if (player) {
       player->stop();
       expectIdle();
@@ -63,6 +75,7 @@ private:
     views_.push_back(&far);
     views_.push_back(&scroll.document());
     views_.push_back(&scroll);
+    scrollViews_.push_back(&scroll);
     sim::ScrollView& list = host.content().addScrollView({.frame = {50, 260, 300, 200}});
     sim::TableView& table = list.addTableDocument(
         {.columns = {{.identifier = "name"}}, .viewBased = chance(2), .identifier = "list"});
@@ -70,6 +83,7 @@ private:
       table.addRow({"row"});
     views_.push_back(&table);
     tables_.push_back(&table);
+    scrollViews_.push_back(&list);
   }
 
   std::shared_ptr<WVGuide> randomGuide()
@@ -139,16 +153,24 @@ private:
   std::vector<std::string> names_ = {"a", "b", "far", "list", "gone"};
   std::vector<sim::View*> views_;
   std::vector<sim::TableView*> tables_;
+  std::vector<const sim::ScrollView*> scrollViews_;
 };
 
 TEST(PlayerInAHostileProgram, SurvivesTwoThousandRoundsAndEndsIdle)
 {
+  Seen seen;
   for (unsigned round = 0; round < 2000; ++round) {
     SCOPED_TRACE(round);
     HostileRound hostile;
-    hostile.play(round);
+    hostile.play(round, seen);
     if (::testing::Test::HasFailure()) return;
   }
+  // The rounds got to the places where it is dangerous.
+  EXPECT_GT(seen.highlights, 2000);
+  EXPECT_GT(seen.scrolls, 1000);
+  EXPECT_GT(seen.prompts, 500);
+  EXPECT_GT(seen.completions, 200);
+  EXPECT_GT(seen.destructions, 50);
 }
 
 } // namespace
