@@ -216,3 +216,12 @@ TEST_F(BubbleAppearance, FadesOutFromWhereItsFadeInWas)
   desktop.advance(0.14);
   EXPECT_LT(opacity(), 0.1) << "the fade-in under way does not win";
 }
+
+TEST_F(BubbleAppearance, IsGoneAfterADismissalAtTheVeryStartOfItsSpring)
+{
+  bubble->appearAtPoint({30, 40}, content());
+  desktop.advance(0.5);
+  bubble->disappearWithCompletion();
+  desktop.advance(0.16);
+  EXPECT_EQ(opacity(), 0) << "its fade-in is over as well";
+}

@@ -74,7 +74,7 @@ TEST(LayerEvaluator, ComesBackWhenItAutoreverses)
   animation.repeatCount = Animation::kForever;
   layer->addAnimation(animation, "pulse");
   EXPECT_NEAR(opacityAt(*layer, 0.9), 0.2, 1e-9);
-  EXPECT_NEAR(opacityAt(*layer, 1.35), 0.6, 1e-9);
+  EXPECT_NEAR(opacityAt(*layer, 1.125), 0.4, 1e-9);
   EXPECT_NEAR(opacityAt(*layer, 1.8), 1, 1e-9);
   EXPECT_NEAR(opacityAt(*layer, 1800.9), 0.2, 1e-6) << "and does so without end";
 }

@@ -63,6 +63,15 @@ TEST(SurfaceView, TellsTheWholeTreeWhenItEntersOrLeavesAWindow)
   EXPECT_FALSE(inner->lastInWindow);
 }
 
+TEST(SurfaceView, TellsNothingOutsideOfWindows)
+{
+  const auto outer = std::make_shared<SurfaceView>(Rect{});
+  const auto inner = std::make_shared<NotedView>(Rect{});
+  outer->addSubview(inner);
+  inner->removeFromSuperview();
+  EXPECT_EQ(inner->notices, 0);
+}
+
 TEST(SurfaceView, TellsItsSubviewsWhenThePanelEnds)
 {
   const auto view = std::make_shared<NotedView>(Rect{});

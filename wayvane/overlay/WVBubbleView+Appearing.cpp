@@ -95,11 +95,7 @@ void WVBubbleView::disappearWithCompletion(std::function<void()> completion)
   const Platform* platform = Platform::current();
   PresentedValues shown;
   evaluateLayer(*layer(), platform ? platform->mainQueue.now() : 0, shown);
-  Animation fadeOut = fade(shown.opacity, 0, kFadeDuration);
-  // Stays in force over the end of an appearance that is still under way.
-  fadeOut.fillForwards = true;
-  fadeOut.removedOnCompletion = false;
-  layer()->addAnimation(fadeOut, "disappear");
+  layer()->addAnimation(fade(shown.opacity, 0, kFadeDuration), "disappear");
   layer()->setOpacity(0);
   runAfter(kFadeDuration, [self = shared_from_this(), completion = std::move(completion)] {
     self->removeFromSuperview();
