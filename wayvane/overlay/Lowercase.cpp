@@ -1,4 +1,5 @@
 #include <wayvane/overlay/Lowercase.h>
+#include <wayvane/platform/Utf8.h>
 
 #include <array>
 
@@ -31,19 +32,6 @@ char32_t lowercased(char32_t letter)
     if (letter >= range.first && letter <= range.last && (letter - range.first) % range.step == 0)
       return static_cast<char32_t>(static_cast<int>(letter) + range.offset);
   return letter;
-}
-
-void append(std::string& text, char32_t letter)
-{
-  const auto add = [&](char32_t byte) { text.push_back(static_cast<char>(byte)); };
-  if (letter < 0x80) return add(letter);
-  if (letter >= 0x800) {
-    add(0xE0 | (letter >> 12));
-    add(0x80 | ((letter >> 6) & 0x3F));
-  } else {
-    add(0xC0 | (letter >> 6));
-  }
-  add(0x80 | (letter & 0x3F));
 }
 
 /// How many bytes the letter at the front has, up to three; 0 for longer ones and for what is no letter.
@@ -84,7 +72,7 @@ std::string lowercased(std::string_view utf8)
     else if (before == after)
       result += letter;
     else
-      append(result, after);
+      platform::appendUtf8(result, after);
     utf8.remove_prefix(letter.size());
   }
   return result;
