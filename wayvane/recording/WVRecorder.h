@@ -71,11 +71,10 @@ public:
   [[nodiscard]] const platform::Registration& menuObserver() const { return menuObserver_; }
 
 private:
-  /// Leads deferred work back to the recorder and the recording it was made for.
+  /// Leads deferred work back to the recorder, as long as no later recording began.
   struct Ticket {
     std::weak_ptr<WVRecorder*> life;
     std::uint64_t recording = 0;
-    [[nodiscard]] WVRecorder* recorderIfAlive() const;
     [[nodiscard]] WVRecorder* recorderIfSameRecording() const;
   };
 
@@ -110,13 +109,13 @@ private:
   // Menu commands
   void _handleMenuCommand(const platform::MenuItemHandle& item);
   void _annotateMenuCommand(const WVStep& step);
-  static void _finishMenuCommand(const Ticket& ticket, const std::shared_ptr<WVGuide>& guide, WVStep step,
-                                 const Annotation& annotation);
+  void _finishMenuCommand(WVStep step, const Annotation& annotation);
 
   std::shared_ptr<WVRecorder*> life_;
   std::uint64_t recordingNumber_ = 0;
   bool recording_ = false;
-  bool finishing_ = false;
+  /// The recording of whose end the delegate is just being told.
+  std::optional<std::uint64_t> finishing_;
   bool capturingAnnotation_ = false;
   std::weak_ptr<WVRecorderDelegate> delegate_;
   std::shared_ptr<WVGuide> guide_;
