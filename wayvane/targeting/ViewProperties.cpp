@@ -77,9 +77,10 @@ bool isShownAsIcon(const View& view)
 
 Text keyPathOfValue(const View& view)
 {
-  if (!view.isKind(ViewKind::TextField) && !view.isKind(ViewKind::TextView)) return std::nullopt;
   auto keyPath = view.observedKeyPathForBinding("value");
-  return keyPath && !keyPath->empty() ? std::move(keyPath) : std::nullopt;
+  if (!keyPath || keyPath->empty()) return std::nullopt;
+  const bool isText = view.as<platform::TextField>() || view.as<platform::TextView>();
+  return isText ? std::move(keyPath) : std::nullopt;
 }
 
 // The text field that borrowed this view as its editor.
