@@ -29,7 +29,7 @@ void WVGuideManager::install()
   separatorItem_ = helpMenu->insertItem(separator, -1);
   _addRecordItem(*helpMenu);
   reloadGuides();
-  recorder_.setDelegate(std::shared_ptr<WVRecorderDelegate>(self_, this));
+  recorder_.setDelegate(asDelegate_);
 }
 
 void WVGuideManager::_addRecordItem(Menu& helpMenu)

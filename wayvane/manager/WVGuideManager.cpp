@@ -20,6 +20,7 @@ WVGuideManager::WVGuideManager(WVPlayer& player, WVRecorder& recorder)
   : player_(player)
   , recorder_(recorder)
   , self_(std::make_shared<WVGuideManager*>(this))
+  , asDelegate_(this, [](WVRecorderDelegate*) {})
 {
   TranslationSource::setCurrent(this);
 }

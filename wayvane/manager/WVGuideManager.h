@@ -129,6 +129,8 @@ private:
   platform::Registration opening_;
   /// What menu entries and alerts hold instead of the manager: null in it once the manager is gone.
   std::shared_ptr<WVGuideManager*> self_;
+  /// What the recorder holds weakly: owns nothing and ends with the manager.
+  std::shared_ptr<WVRecorderDelegate> asDelegate_;
 };
 
 } // namespace wayvane
