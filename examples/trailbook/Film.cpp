@@ -66,7 +66,7 @@ void Film::playNext()
   say(QString("Guide \"%1\", %2 steps")
           .arg(QString::fromStdString(guide->localizedName()))
           .arg(guide->steps.size()));
-  bubble_ = nullptr;
+  bubble_.reset();
   sinceProgress_.start();
   player().playGuide(guide);
 }
@@ -93,7 +93,7 @@ void Film::playerDidSkipGuide(const std::string&, std::uint64_t atStep)
 void Film::look()
 {
   if (!player().isPlaying()) return;
-  const void* bubble = player().currentBubble().get();
+  const auto bubble = player().currentBubble();
   if (bubble && bubble != bubble_) {
     bubble_ = bubble;
     sinceBubble_.start();
@@ -128,7 +128,7 @@ void Film::clickTarget()
 {
   QWidget* window = targetWindow();
   if (!window || !window->windowHandle()) return;
-  const QPointF global = wayvane::qt::fromScreenPoint(player().currentTargetScreenRect().center());
+  const QPointF global = wayvane::qt::globalFromScreenPoint(player().currentTargetScreenRect().center());
   const QPoint local = window->mapFromGlobal(global.toPoint());
   QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, local);
   sinceProgress_.start();

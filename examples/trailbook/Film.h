@@ -1,6 +1,7 @@
 #pragma once
 
 #include <wayvane/model/WVGuide.h>
+#include <wayvane/overlay/WVBubbleView.h>
 #include <wayvane/playback/WVPlayer.h>
 
 #include <QDir>
@@ -50,7 +51,8 @@ private:
   std::vector<std::shared_ptr<wayvane::WVGuide>> guides_;
   std::size_t next_ = 0;
   std::size_t completed_ = 0;
-  const void* bubble_ = nullptr;
+  /// Held, so that the next bubble cannot be mistaken for it.
+  std::shared_ptr<wayvane::WVBubbleView> bubble_;
   QElapsedTimer sinceBubble_;
   QElapsedTimer sinceProgress_;
   QTimer poll_;
