@@ -45,8 +45,7 @@ void QtMenu::removeItem(const platform::MenuItem& item)
   QAction* action = actionOf(item);
   if (!menu_ || !action || !isOwnAction(*action) || !menu_->actions().contains(action)) return;
   menu_->removeAction(action);
-  // It may be the very one whose command is being performed.
-  action->deleteLater();
+  disposeOwnAction(*action);
 }
 
 int QtMenu::indexOfItem(const platform::MenuItem& item) const

@@ -20,6 +20,7 @@ constexpr int kDeepestMenu = 32;
 const char* const kSymbolProperty = "wv_symbol";
 const char* const kOwnProperty = "wv_own";
 const char* const kActionProperty = "wv_action";
+const char* const kDisposedProperty = "wv_disposed";
 
 QString shownTitle(const QAction& action)
 {
@@ -60,48 +61,60 @@ QtMenuItem::QtMenuItem(QAction* action, QWidget* menu)
   , menu_(menu)
 {}
 
+QAction* QtMenuItem::qAction() const
+{
+  return action_ && !action_->property(kDisposedProperty).toBool() ? action_.data() : nullptr;
+}
+
 QWidget* QtMenuItem::menuWidget() const
 {
-  if (!action_) return nullptr;
-  if (menu_ && menu_->actions().contains(action_)) return menu_;
-  return firstMenuOf(*action_);
+  const QAction* a = qAction();
+  if (!a) return nullptr;
+  return menu_ && menu_->actions().contains(a) ? menu_.data() : firstMenuOf(*a);
 }
 
 bool QtMenuItem::isSame(const platform::MenuItem& other) const
 {
-  return action_ && action_ == actionOf(other);
+  const QAction* a = qAction();
+  return a && a == actionOf(other);
 }
 
 std::string QtMenuItem::title() const
 {
-  return action_ ? toUtf8(shownTitle(*action_)) : std::string();
+  const QAction* a = qAction();
+  return a ? toUtf8(shownTitle(*a)) : std::string();
 }
 
 bool QtMenuItem::isSeparator() const
 {
-  return action_ && action_->isSeparator();
+  const QAction* a = qAction();
+  return a && a->isSeparator();
 }
 
 std::optional<std::string> QtMenuItem::action() const
 {
-  if (!action_ || action_->isSeparator() || action_->menu()) return std::nullopt;
-  const QString given = givenActionName(*action_);
-  return toOptional(given.isEmpty() ? titlePath(*action_, menuWidget()) : given);
+  const QAction* a = qAction();
+  if (!a || a->isSeparator() || a->menu<QMenu*>()) return std::nullopt;
+  const QString given = givenActionName(*a);
+  return toOptional(given.isEmpty() ? titlePath(*a, menuWidget()) : given);
 }
 
 std::optional<std::string> QtMenuItem::toolTip() const
 {
-  return action_ ? toOptional(withoutMarkup(givenToolTip(*action_))) : std::nullopt;
+  const QAction* a = qAction();
+  return a ? toOptional(withoutMarkup(givenToolTip(*a))) : std::nullopt;
 }
 
 SymbolImage QtMenuItem::image() const
 {
-  return action_ ? static_cast<SymbolImage>(action_->property(kSymbolProperty).toInt()) : SymbolImage::None;
+  const QAction* a = qAction();
+  return a ? static_cast<SymbolImage>(a->property(kSymbolProperty).toInt()) : SymbolImage::None;
 }
 
 platform::MenuHandle QtMenuItem::submenu() const
 {
-  return action_ ? menuForWidget(action_->menu<QMenu*>()) : nullptr;
+  const QAction* a = qAction();
+  return a ? menuForWidget(a->menu<QMenu*>()) : nullptr;
 }
 
 platform::MenuHandle QtMenuItem::menu() const
@@ -127,12 +140,14 @@ void setSymbol(QAction& action, SymbolImage symbol)
 
 void QtMenuItem::setTitle(const std::string& title)
 {
-  if (action_ && isOwnAction(*action_)) setShownTitle(*action_, title);
+  QAction* a = qAction();
+  if (a && isOwnAction(*a)) setShownTitle(*a, title);
 }
 
 void QtMenuItem::setImage(SymbolImage image)
 {
-  if (action_ && isOwnAction(*action_)) setSymbol(*action_, image);
+  QAction* a = qAction();
+  if (a && isOwnAction(*a)) setSymbol(*a, image);
 }
 
 platform::MenuItemHandle menuItemForAction(QAction* action, QWidget* menu)
@@ -175,6 +190,12 @@ QAction* makeOwnAction(const platform::MenuItemSpec& spec, QObject* parent)
 bool isOwnAction(const QAction& action)
 {
   return action.property(kOwnProperty).toBool();
+}
+
+void disposeOwnAction(QAction& action)
+{
+  action.setProperty(kDisposedProperty, true);
+  action.deleteLater();
 }
 
 } // namespace wayvane::qt

@@ -15,7 +15,8 @@ class QtMenuItem : public platform::MenuItem {
 public:
   explicit QtMenuItem(QAction* action, QWidget* menu = nullptr);
 
-  [[nodiscard]] QAction* qAction() const { return action_; }
+  /// Null when it is gone, or was taken out of its menu by us and is about to go.
+  [[nodiscard]] QAction* qAction() const;
 
   /// Entries are the same when their actions are.
   [[nodiscard]] bool isSame(const platform::MenuItem& other) const override;
@@ -47,5 +48,8 @@ private:
 /// Makes an entry of ours, a child of `parent`.
 [[nodiscard]] QAction* makeOwnAction(const platform::MenuItemSpec& spec, QObject* parent);
 [[nodiscard]] bool isOwnAction(const QAction& action);
+/// Deletes an entry of ours on a later turn, because it may be the very one whose command is being performed;
+/// its handles answer nothing from now on.
+void disposeOwnAction(QAction& action);
 
 } // namespace wayvane::qt
