@@ -1,23 +1,27 @@
 #include "Film.h"
 
-#include <wayvane/platform/Panels.h>
+#include "MainWindow.h"
+
+#include <wayvane/overlay/WVBubbleView.h>
 #include <wayvane/platform/qt/Conversions.h>
 #include <wayvane/platform/qt/QtWindow.h>
+#include <wayvane/playback/WVPlayer.h>
+#include <wayvane/recording/WVRecorder.h>
 
+#include <QAbstractButton>
 #include <QApplication>
-#include <QPainter>
-#include <QTest>
+#include <QDialog>
+#include <QLineEdit>
+#include <QMenu>
+#include <QTableView>
 #include <QTextStream>
-#include <QWindow>
-
-#include <cmath>
+#include <QTimer>
 
 namespace trailbook {
 namespace {
 
-constexpr int kPollMilliseconds = 40;
 /// The bubble's delay, its spring and the moving hole are over by then.
-constexpr int kSettleMilliseconds = 2000;
+constexpr int kSettleMilliseconds = 1900;
 constexpr int kStuckMilliseconds = 15000;
 
 void say(const QString& line)
@@ -25,148 +29,169 @@ void say(const QString& line)
   QTextStream(stdout) << line << '\n' << Qt::flush;
 }
 
+bool complain(const QString& line)
+{
+  say("  " + line);
+  return false;
+}
+
 wayvane::WVPlayer& player()
 {
   return wayvane::WVPlayer::sharedPlayer();
 }
 
-} // namespace
-
-Film::Film(const QDir& folder, const QString& variant, std::vector<std::shared_ptr<wayvane::WVGuide>> guides)
-  : folder_(folder)
-  , variant_(variant)
-  , guides_(std::move(guides))
-{
-  poll_.setInterval(kPollMilliseconds);
-  connect(&poll_, &QTimer::timeout, this, &Film::look);
-}
-
-void Film::start()
-{
-  folder_.mkpath(".");
-  player().setDelegate(shared_from_this());
-  player().setShowsCircle(true);
-  poll_.start();
-  playNext();
-}
-
-void Film::playNext()
-{
-  if (next_ == guides_.size()) {
-    saveContactSheet();
-    say(QString("%1 of %2 guides completed, %3 pictures in %4")
-            .arg(completed_)
-            .arg(guides_.size())
-            .arg(frames_.size())
-            .arg(folder_.path()));
-    finish(completed_ == guides_.size() && !frames_.empty() ? 0 : 1);
-    return;
+/// Prints what the player does.
+class Narrator : public wayvane::WVPlayerDelegate {
+public:
+  void playerWillShowStep(std::uint64_t index) override
+  {
+    const wayvane::WVStep& step = player().guide()->steps[index];
+    say(QString("  step %1: %2")
+            .arg(index + 1)
+            .arg(QString::fromStdString(step.target.displayDescription())));
   }
-  const auto guide = guides_[next_++];
-  say(QString("Guide \"%1\", %2 steps")
-          .arg(QString::fromStdString(guide->localizedName()))
-          .arg(guide->steps.size()));
-  bubble_.reset();
-  sinceProgress_.start();
-  player().playGuide(guide);
-}
 
-void Film::playerWillShowStep(std::uint64_t index)
-{
-  const auto& step = player().guide()->steps[index];
-  say(QString("  step %1: %2").arg(index + 1).arg(QString::fromStdString(step.target.displayDescription())));
-  sinceProgress_.start();
-}
+  void playerDidCompleteGuide(const std::string& /*identifier*/) override { completed = true; }
 
-void Film::playerDidCompleteGuide(const std::string&)
-{
-  ++completed_;
-  QTimer::singleShot(300, this, &Film::playNext);
-}
-
-void Film::playerDidSkipGuide(const std::string&, std::uint64_t atStep)
-{
-  say(QString("  the guide ended at step %1").arg(atStep + 1));
-  QTimer::singleShot(300, this, &Film::playNext);
-}
-
-void Film::look()
-{
-  if (!player().isPlaying()) return;
-  const auto bubble = player().currentBubble();
-  if (bubble && bubble != bubble_) {
-    bubble_ = bubble;
-    sinceBubble_.start();
-  } else if (bubble && sinceBubble_.isValid() && sinceBubble_.elapsed() > kSettleMilliseconds) {
-    sinceBubble_.invalidate();
-    shoot();
-    clickTarget();
-  } else if (sinceProgress_.elapsed() > kStuckMilliseconds) {
-    say("  stuck: nothing happened for a while");
-    finish(1);
+  void playerDidSkipGuide(const std::string& /*identifier*/, std::uint64_t atStep) override
+  {
+    say(QString("  the guide ended at step %1").arg(atStep + 1));
   }
-}
 
-QWidget* Film::targetWindow() const
+  bool completed = false;
+};
+
+QWidget* targetWindow()
 {
   const auto parent = player().overlayWindow() ? player().overlayWindow()->parentWindow() : nullptr;
   return parent ? wayvane::qt::widgetOf(*parent) : nullptr;
 }
 
-void Film::shoot()
+void clickTarget()
 {
-  QWidget* window = targetWindow();
+  QWidget* const window = targetWindow();
   if (!window) return;
-  const QString name =
-      QString("guide%1-step%2-%3.png").arg(next_).arg(player().currentStepIndex() + 1).arg(variant_);
-  Frame frame{window->grab().toImage(), name};
-  frame.picture.save(folder_.filePath(name));
-  frames_.push_back(std::move(frame));
-}
-
-void Film::clickTarget()
-{
-  QWidget* window = targetWindow();
-  if (!window || !window->windowHandle()) return;
   const QPointF global = wayvane::qt::globalFromScreenPoint(player().currentTargetScreenRect().center());
-  const QPoint local = window->mapFromGlobal(global.toPoint());
-  QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, local);
-  sinceProgress_.start();
+  User::click(*window, window->mapFromGlobal(global.toPoint()));
   // A pop-up that the click opened would hide the next step; a user would choose from it.
-  QTimer::singleShot(100, this, [] {
-    if (QWidget* popup = QApplication::activePopupWidget()) popup->close();
-  });
+  User::wait(100);
+  if (QWidget* const popup = QApplication::activePopupWidget()) popup->close();
 }
 
-void Film::finish(int exitCode)
-{
-  poll_.stop();
-  QCoreApplication::exit(exitCode);
-}
+} // namespace
 
-void Film::saveContactSheet() const
+bool followGuide(User& user, Pictures& pictures, const QString& name)
 {
-  if (frames_.empty()) return;
-  const int columns = 3;
-  const QSize cell(520, 360);
-  const int rows = static_cast<int>((frames_.size() + columns - 1) / columns);
-  QImage sheet(cell.width() * columns, cell.height() * rows, QImage::Format_RGB32);
-  sheet.fill(QColor(0x80, 0x80, 0x80));
-  QPainter painter(&sheet);
-  painter.setRenderHint(QPainter::SmoothPixmapTransform);
-  for (std::size_t i = 0; i < frames_.size(); ++i) {
-    const int column = static_cast<int>(i) % columns, row = static_cast<int>(i) / columns;
-    const QRect place(column * cell.width() + 8, row * cell.height() + 8, cell.width() - 16,
-                      cell.height() - 34);
-    QImage picture = frames_[i].picture.scaled(place.size(), Qt::KeepAspectRatio, Qt::SmoothTransformation);
-    picture.setDevicePixelRatio(1);
-    painter.drawImage(place.topLeft(), picture);
-    painter.setPen(Qt::white);
-    painter.drawText(QRect(place.left(), place.bottom() + 4, place.width(), 20), Qt::AlignLeft,
-                     frames_[i].caption);
+  const auto narrator = std::make_shared<Narrator>();
+  player().setDelegate(narrator);
+  while (player().isPlaying()) {
+    if (!user.waitUntil([] { return !player().isPlaying() || player().currentBubble(); }, kStuckMilliseconds))
+      return complain("stuck: no step was shown");
+    if (!player().isPlaying()) break;
+    user.wait(kSettleMilliseconds);
+    const auto bubble = player().currentBubble();
+    if (QWidget* const window = targetWindow())
+      pictures.add(window->grab().toImage(),
+                   QString("%1-step%2").arg(name).arg(player().currentStepIndex() + 1));
+    clickTarget();
+    if (!user.waitUntil([&bubble] { return player().currentBubble() != bubble; }))
+      return complain("stuck: the click on the target did nothing");
   }
-  painter.end();
-  sheet.save(folder_.filePath(QString("contact-sheet-%1.png").arg(variant_)));
+  return narrator->completed;
+}
+
+bool filmGuide(User& user, Pictures& pictures, const std::shared_ptr<wayvane::WVGuide>& guide,
+               const QString& name)
+{
+  say(QString("Guide \"%1\", %2 steps")
+          .arg(QString::fromStdString(guide->localizedName()))
+          .arg(guide->steps.size()));
+  player().playGuide(guide);
+  return followGuide(user, pictures, name);
+}
+
+namespace {
+
+/// Fills in the popover that the last act has brought up.
+bool annotate(User& user, const QString& title, const QString& message)
+{
+  if (!user.waitUntil([] { return User::field("titleField") != nullptr; })) return complain("no popover");
+  QWidget& popover = *User::field("titleField")->window();
+  user.waitUntil([&popover] { return popover.focusWidget() == User::field("titleField"); });
+  user.type(popover, title);
+  user.press(popover, Qt::Key_Tab);
+  user.type(popover, message);
+  return true;
+}
+
+bool addStep(User& user)
+{
+  QLineEdit* const field = User::field("msgField");
+  if (!field) return complain("the popover is gone");
+  user.press(*field, Qt::Key_Return);
+  return user.waitUntil([] { return !User::field("msgField"); }) || complain("the popover stays");
+}
+
+bool recordSteps(User& user, MainWindow& window, Pictures& pictures)
+{
+  auto* const save = window.findChild<QAbstractButton*>("saveButton");
+  user.hover(*save);
+  user.wait(200);
+  pictures.add(user.picture(), "record-2-hover");
+  user.click(*save);
+  if (!annotate(user, "Keep your changes", "Saves what you typed.")) return false;
+  pictures.add(user.picture(), "record-3-popover");
+  if (!addStep(user)) return false;
+
+  auto* const table = window.findChild<QTableView*>("trailTable");
+  user.click(*table->viewport(), table->visualRect(table->model()->index(3, 0)).center());
+  if (!annotate(user, QString(), "Choose this trail.") || !addStep(user)) return false;
+
+  user.click(*window.findChild<QWidget*>("searchField"));
+  if (!annotate(user, "Search", "Type a part of a name.") || !addStep(user)) return false;
+
+  user.click(*window.findChild<QAbstractButton*>("revertButton"));
+  if (!annotate(user, "A slip", "This step is taken back.") || !addStep(user)) return false;
+  pictures.add(user.picture(), "record-4-badge");
+  user.click(*User::button("Undo"));
+  return true;
+}
+
+bool saveRecording(User& user, Pictures& pictures, const QString& guideName)
+{
+  user.whenDialogAppears([&](QDialog& dialog) {
+    user.wait(100);
+    auto* const name = dialog.findChild<QLineEdit*>();
+    name->selectAll();
+    user.type(dialog, guideName);
+    pictures.add(user.picture(), "record-5-save");
+    user.press(dialog, Qt::Key_Return);
+  });
+  QAbstractButton* const done = User::button("Done");
+  if (!done) return complain("no badge");
+  user.click(*done);
+  return true;
+}
+
+} // namespace
+
+bool filmRecording(User& user, MainWindow& window, Pictures& pictures, const QString& guideName)
+{
+  say(QString("Recording \"%1\"").arg(guideName));
+  if (!user.choose("Help", QString::fromUtf8("Record Guide…"))) return complain("no entry to record with");
+  if (!user.waitUntil([] { return wayvane::WVRecorder::sharedRecorder().isRecording(); }))
+    return complain("no recording");
+  user.wait(200);
+  pictures.add(user.picture(), "record-1-started");
+  if (!recordSteps(user, window, pictures) || !saveRecording(user, pictures, guideName)) return false;
+
+  QMenu* const help = user.openMenu("Help");
+  if (!help) return complain("no Help menu");
+  user.wait(100);
+  pictures.add(user.picture(), "record-6-menu");
+  help->close();
+  if (!user.choose("Help", guideName)) return complain("the guide is not in the Help menu");
+  return followGuide(user, pictures, "recorded");
 }
 
 } // namespace trailbook

@@ -1,33 +1,51 @@
 #include "Film.h"
 #include "MainWindow.h"
 
+#include <wayvane/manager/WVGuideManager.h>
+#include <wayvane/playback/WVPlayer.h>
 #include <wayvane/qt/Wayvane.h>
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
-#include <QMenuBar>
 #include <QPalette>
 #include <QStyleFactory>
 #include <QTextStream>
+#include <QTimer>
 #include <QTranslator>
 
 namespace {
 
 using wayvane::WVGuide;
+using wayvane::WVGuideManager;
 
-std::vector<std::shared_ptr<WVGuide>> readGuides(const QDir& folder, const QStringList& only)
+struct Options {
+  QString film;
+  QString record;
+  QString language;
+  QStringList guides;
+  QDir samples;
+  bool dark = false;
+};
+
+Options parse(const QApplication& app)
 {
-  std::vector<std::shared_ptr<WVGuide>> guides;
-  for (const QString& name : folder.entryList({"*.wayvane"}, QDir::Files, QDir::Name)) {
-    if (!only.isEmpty() && !only.contains(QFileInfo(name).completeBaseName())) continue;
-    wayvane::platform::Error error;
-    if (auto guide = WVGuide::guideWithContentsOfURL(folder.filePath(name).toStdString(), &error))
-      guides.push_back(guide);
-    else
-      QTextStream(stderr) << name << ": " << QString::fromStdString(error.description) << '\n';
-  }
-  return guides;
+  QCommandLineParser parser;
+  parser.setApplicationDescription("Trailbook, the host program that Wayvane is shown with");
+  parser.addHelpOption();
+  const QCommandLineOption film("film", "Play guides by real clicks, a picture of each step in DIR.", "DIR");
+  const QCommandLineOption guide("guide", "Film only the library's guide of that name (may be repeated).",
+                                 "NAME");
+  const QCommandLineOption record("record", "Film how a guide is recorded, saved as NAME and played.",
+                                  "NAME");
+  const QCommandLineOption language("language", "The language of program and guides, such as de.", "CODE");
+  const QCommandLineOption samples("samples", "The folder with the sample guides.", "DIR",
+                                   QApplication::applicationDirPath() + "/guides");
+  const QCommandLineOption dark("dark", "Dark colours.");
+  parser.addOptions({film, guide, record, language, samples, dark});
+  parser.process(app);
+  return {parser.value(film),   parser.value(record),        parser.value(language),
+          parser.values(guide), QDir(parser.value(samples)), parser.isSet(dark)};
 }
 
 QPalette darkPalette()
@@ -46,40 +64,45 @@ QPalette darkPalette()
   return palette;
 }
 
-void addGuidesMenu(QMenuBar* bar, const std::vector<std::shared_ptr<WVGuide>>& guides)
+/// The samples become part of the user's library, as if somebody had recorded them.
+void putIntoLibrary(const QDir& samples)
 {
-  QMenu* menu = new QMenu(QCoreApplication::translate("main", "&Guides"), bar);
-  for (const auto& guide : guides)
-    QObject::connect(menu->addAction(QString::fromStdString(guide->localizedName())), &QAction::triggered,
-                     bar, [guide] { wayvane::WVPlayer::sharedPlayer().playGuide(guide); });
-  bar->insertMenu(bar->actions().last(), menu);
+  const QDir library(QString::fromStdString(WVGuideManager::sharedManager().guidesDirectory()));
+  for (const QString& name : samples.entryList({"*.wayvane"}, QDir::Files))
+    if (!library.exists(name)) QFile::copy(samples.filePath(name), library.filePath(name));
+  WVGuideManager::sharedManager().reloadGuides();
 }
 
-struct Options {
-  QString film;
-  QString language;
-  QStringList guides;
-  QDir guideFolder;
-  bool dark = false;
-};
-
-Options parse(const QApplication& app)
+bool filmLibrary(trailbook::User& user, trailbook::Pictures& pictures, const QStringList& only)
 {
-  QCommandLineParser parser;
-  parser.setApplicationDescription("Trailbook, the host program that Wayvane is shown with");
-  parser.addHelpOption();
-  const QCommandLineOption film(
-      "film", "Play the guides by real clicks and leave a picture of each step in DIR.", "DIR");
-  const QCommandLineOption language("language", "The language of the program and its guides, such as de.",
-                                    "CODE");
-  const QCommandLineOption guide("guide", "Play only this guide (may be repeated).", "NAME");
-  const QCommandLineOption folder("guides", "The folder with the sample guides.", "DIR",
-                                  app.applicationDirPath() + "/guides");
-  const QCommandLineOption dark("dark", "Dark colours.");
-  parser.addOptions({film, language, guide, folder, dark});
-  parser.process(app);
-  return {parser.value(film), parser.value(language), parser.values(guide), QDir(parser.value(folder)),
-          parser.isSet(dark)};
+  bool good = true;
+  auto guides = WVGuideManager::sharedManager().savedGuides();
+  std::sort(guides.begin(), guides.end(), [](const auto& a, const auto& b) { return a->name < b->name; });
+  int number = 0;
+  for (const auto& guide : guides) {
+    ++number;
+    if (!only.isEmpty() && !only.contains(QString::fromStdString(guide->name.value_or("")))) continue;
+    good = trailbook::filmGuide(user, pictures, guide, QString("guide%1").arg(number)) && good;
+  }
+  return good;
+}
+
+int makeFilm(const Options& options, trailbook::MainWindow& window)
+{
+  const QString language = options.language.isEmpty() ? QString() : options.language + '-';
+  const QString look = options.dark ? "dark" : "light";
+  const QString subject = options.record.isEmpty() ? "guides" : "recording";
+  trailbook::Pictures pictures(
+      QDir(options.film), QString("%1%2-%3x").arg(language, look).arg(window.devicePixelRatio()), subject);
+  trailbook::User user(window);
+  wayvane::WVPlayer::sharedPlayer().setShowsCircle(true);
+  const bool good = options.record.isEmpty()
+                        ? filmLibrary(user, pictures, options.guides)
+                        : trailbook::filmRecording(user, window, pictures, options.record);
+  pictures.saveContactSheet();
+  QTextStream(stdout) << pictures.count() << " pictures in " << options.film
+                      << (good ? "\n" : ", but not every guide was completed\n");
+  return good && pictures.count() > 0 ? 0 : 1;
 }
 
 } // namespace
@@ -102,16 +125,9 @@ int main(int argc, char** argv)
   trailbook::MainWindow window;
   window.show();
   wayvane::qt::install();
+  putIntoLibrary(options.samples);
 
-  const auto guides = readGuides(options.guideFolder, options.guides);
-  addGuidesMenu(window.menuBar(), guides);
-
-  std::shared_ptr<trailbook::Film> film;
-  if (!options.film.isEmpty()) {
-    const QString variant =
-        QString("%1-%2x").arg(options.dark ? "dark" : "light").arg(app.devicePixelRatio());
-    film = std::make_shared<trailbook::Film>(QDir(options.film), variant, guides);
-    QTimer::singleShot(200, film.get(), &trailbook::Film::start);
-  }
+  if (!options.film.isEmpty())
+    QTimer::singleShot(300, &window, [&] { QCoreApplication::exit(makeFilm(options, window)); });
   return QApplication::exec();
 }

@@ -337,11 +337,4 @@
         <translation>%1 von %2 gepackt</translation>
     </message>
 </context>
-<context>
-    <name>main</name>
-    <message>
-        <source>&amp;Guides</source>
-        <translation>&amp;Anleitungen</translation>
-    </message>
-</context>
 </TS>
