@@ -133,7 +133,7 @@ public:
 };
 
 /// The stage of the toolkit that this suite is linked with. The program calls itself org.example.Notes,
-/// version 1.4.
+/// version 1.4, and runs in English.
 [[nodiscard]] std::unique_ptr<Stage> makeStage();
 
 /// What a toolkit cannot show, and why.
