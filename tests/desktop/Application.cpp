@@ -78,4 +78,20 @@ void Application::forget(const Window& window)
   if (const auto was = key.lock(); !was || was.get() == &window) key = successor;
 }
 
+void Log::write(std::string_view line)
+{
+  std::string escaped;
+  for (const char c : line) {
+    const auto code = static_cast<unsigned char>(c);
+    if (code >= 0x20 && code != 0x7f) {
+      escaped += c;
+      continue;
+    }
+    constexpr std::string_view kDigits = "0123456789abcdef";
+    escaped += "\\u00";
+    escaped += {kDigits[code >> 4U], kDigits[code & 15U]};
+  }
+  lines.push_back(std::move(escaped));
+}
+
 } // namespace wayvane::sim

@@ -52,7 +52,8 @@ public:
 
 class Log : public platform::Log {
 public:
-  void write(std::string_view line) override { lines.emplace_back(line); }
+  /// Control characters are kept as "\u000a" and the like.
+  void write(std::string_view line) override;
 
   std::vector<std::string> lines;
 };

@@ -118,6 +118,7 @@ std::vector<std::string> Menu::titles() const
 void Menu::destroy()
 {
   alive_ = false;
+  supermenu_.reset();
   for (const auto& item : std::exchange(items_, {}))
     item->die();
 }

@@ -77,10 +77,21 @@ Rect ScrollView::documentBounds() const
   return isAlive() && document_ ? document_->bounds() : Rect{};
 }
 
+void completeWithoutView(platform::ScrollAnimation animation)
+{
+  if (!animation.completion) return;
+  // The desktop of a view that is gone may be gone, too.
+  platform::Platform* const platform = platform::Platform::current();
+  if (platform && animation.duration > 0)
+    platform->mainQueue.async(std::move(animation.completion));
+  else
+    animation.completion();
+}
+
 void ScrollView::scrollToOrigin(Point origin, platform::ScrollAnimation animation) const
 {
   if (!isAlive() || !clip_) {
-    if (animation.completion) animation.completion();
+    completeWithoutView(std::move(animation));
     return;
   }
   finishRunningScroll();

@@ -134,11 +134,10 @@ void TableView::scrollRowToVisible(int row, platform::ScrollAnimation animation)
     const double y = nearestStart(visible.y, visible.height, rect.y, rect.maxY());
     return scroll->scrollToOrigin({visible.x, y}, std::move(animation));
   }
-  if (!animation.completion) return;
-  if (isAlive() && animation.duration > 0)
+  if (isAlive() && animation.completion && animation.duration > 0)
     desktop().clock().after(animation.duration, std::move(animation.completion));
   else
-    animation.completion();
+    completeWithoutView(std::move(animation));
 }
 
 const void* TableView::role(platform::ViewKind kind) const
