@@ -26,12 +26,6 @@ QAbstractItemView* itemViewOfCell(const QWidget& widget)
   return view && view->viewport() == parent && !qobject_cast<QHeaderView*>(view) ? view : nullptr;
 }
 
-QModelIndex indexOfCell(const QAbstractItemView& view, const QWidget& cell)
-{
-  const QModelIndex index = view.indexAt(cell.geometry().center());
-  return view.indexWidget(index) == &cell ? index : QModelIndex();
-}
-
 QPoint scrollOffset(const QAbstractItemView& view)
 {
   return {(view.*Opened::kHorizontalOffset)(), (view.*Opened::kVerticalOffset)()};
@@ -40,6 +34,14 @@ QPoint scrollOffset(const QAbstractItemView& view)
 void layOutItems(const QAbstractItemView& view)
 {
   (const_cast<QAbstractItemView&>(view).*Opened::kExecuteLayout)();
+}
+
+QModelIndex indexOfCell(const QAbstractItemView& view, const QWidget& cell)
+{
+  // A cell set just now has its place only after the layout.
+  layOutItems(view);
+  const QModelIndex index = view.indexAt(cell.geometry().center());
+  return view.indexWidget(index) == &cell ? index : QModelIndex();
 }
 
 const QHeaderView* columnHeader(const QAbstractItemView& view)

@@ -144,6 +144,7 @@ void QtTableView::scrollRowToVisible(int row, platform::ScrollAnimation animatio
   const QModelIndex index = indexAt(0, row);
   if (!view || !index.isValid()) return finishScroll(animation);
   // Only the view itself knows where it would scroll, and it can only be asked by letting it.
+  layOutItems(*view);
   const QPoint before = scrollBarValues(*view);
   view->scrollTo(index);
   const QPoint after(before.x(), view->verticalScrollBar()->value());
