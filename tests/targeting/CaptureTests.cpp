@@ -142,6 +142,22 @@ TEST_F(Capture, ViewThatTheHostNamesIsMeantItself)
   EXPECT_EQ(meantBy(inner.addView("NSView")), "compass");
 }
 
+TEST_F(Capture, ViewNamedOnlyInTheInterfaceBuilderIsMeantItself)
+{
+  class HiddenFromAccessibility : public sim::View {
+  public:
+    using sim::View::View;
+
+    [[nodiscard]] sim::Text accessibilityIdentifier() const override { return std::nullopt; }
+  };
+
+  auto& outer = content.addView("NSView", {.accessibilityIdentifier = "outer"});
+  const auto& info = desktop.defineClass("NSView");
+  auto& inner = outer.adopt(std::make_shared<HiddenFromAccessibility>(desktop, info, platform::Rect{}));
+  inner.setIdentifier("compass");
+  EXPECT_EQ(captured(inner.addView("NSView")).hierarchyPath, "NSView[0]/NSView[0]");
+}
+
 TEST_F(Capture, ViewWithAToolTipIsMeantItself)
 {
   auto& outer = content.addView("NSView", {.accessibilityIdentifier = "outer"});

@@ -117,6 +117,7 @@ TEST_F(HierarchyPathBelowContent, PathOfTheMostLevelsIsStillFollowed)
   for (std::size_t level = 0; level < HierarchyPath::kMostLevels; ++level) {
     deepest = &deepest->addView("NSView");
   }
+  deepest->addView("NSView");
   auto path = repeated("NSView/", HierarchyPath::kMostLevels);
   path.pop_back();
   EXPECT_TRUE(isView(wv_viewAtHierarchyPath(content, path), *deepest));

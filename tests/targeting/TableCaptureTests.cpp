@@ -89,6 +89,19 @@ TEST_F(ViewBasedCapture, ButtonInACellMeansTheButtonAndTellsItsRow)
   EXPECT_EQ(descriptor.objectIdentifier, "uuid:A1");
 }
 
+TEST_F(ViewBasedCapture, ViewInATableInsideOfACellDoesNotMeanTheOuterCell)
+{
+  auto& inner = cell(0, 1).addTableView({.columns = {{.identifier = "inner"}}});
+  inner.setCellMaker([](sim::View& rowView, const platform::Rect& frame, int, int) {
+    return &rowView.addTextField({.value = "note", .frame = frame});
+  });
+  inner.addRow({"note"});
+  const auto descriptor = captured(*inner.cellAt(0, 0));
+  EXPECT_EQ(descriptor.className, "NSTextField");
+  EXPECT_EQ(descriptor.tableRow, 0);
+  EXPECT_EQ(descriptor.tableColumnIdentifier, "inner");
+}
+
 TEST_F(ViewBasedCapture, NamedViewIsTheCellWhereTheTableHasNoCellViews)
 {
   table.setCellMaker([](sim::View& rowView, const platform::Rect& frame, int, int) {

@@ -42,12 +42,6 @@ Text titleOfButton(const View& view)
   return std::nullopt;
 }
 
-Text labelOfSelectedSegment(const platform::SegmentedControl& control)
-{
-  const int segment = control.selectedSegment();
-  return segment >= 0 && segment < control.segmentCount() ? control.labelForSegment(segment) : std::nullopt;
-}
-
 bool hasSelectedSegment(const platform::SegmentedControl& control)
 {
   return control.selectedSegment() >= 0 && control.selectedSegment() < control.segmentCount();
@@ -118,7 +112,9 @@ std::optional<std::string> wv_localizedTitle(const View& view)
 {
   if (auto given = view.hostString(HostProperty::LocalizedTitle)) return given;
   const auto* segments = view.as<platform::SegmentedControl>();
-  if (segments && hasSelectedSegment(*segments)) return labelOfSelectedSegment(*segments);
+  if (segments && hasSelectedSegment(*segments)) {
+    return segments->labelForSegment(segments->selectedSegment());
+  }
   if (auto title = titleOfRole(view)) return title;
   return view.accessibilityLabel();
 }

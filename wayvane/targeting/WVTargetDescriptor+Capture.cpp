@@ -46,7 +46,6 @@ bool isElementOfItsOwn(const View& view)
 ViewHandle meaningfulViewForView(const ViewHandle& pressed)
 {
   const auto content = pressed ? contentViewAround(*pressed) : nullptr;
-  if (isSameView(pressed, content)) return pressed;
   for (auto view = pressed; view && !isSameView(view, content); view = view->superview()) {
     if (isElementOfItsOwn(*view)) return view;
   }
