@@ -44,11 +44,16 @@ bool WVGuide::writeToURL(const std::string& path, Error* error) const
 
 std::shared_ptr<WVGuide> WVGuide::guideWithJSONData(std::string_view bytes, Error* error)
 {
-  auto guide = readRecord<WVGuide>(bytes, RecordForm::File, error);
-  if (!guide) return nullptr;
-  if (!guide->identifier) guide->identifier = freshUuid();
-  if (!guide->name) guide->name = "";
-  return std::make_shared<WVGuide>(std::move(*guide));
+  try {
+    auto guide = readRecord<WVGuide>(bytes, RecordForm::File, error);
+    if (!guide) return nullptr;
+    if (!guide->identifier) guide->identifier = freshUuid();
+    if (!guide->name) guide->name = "";
+    return std::make_shared<WVGuide>(std::move(*guide));
+  } catch (const std::exception& exception) {
+    platform::setError(error, outOfMemoryError(exception));
+    return nullptr;
+  }
 }
 
 std::shared_ptr<WVGuide> WVGuide::guideWithContentsOfURL(const std::string& path, Error* error)
