@@ -18,6 +18,9 @@ private:
   double begin_ = 0, duration_ = 0;
 };
 
+/// Ends a scroll that cannot be made: in a later turn, or at once for a jump.
+void completeWithoutView(platform::ScrollAnimation animation);
+
 struct ScrollRequest {
   platform::Point origin;
   double duration = 0;
