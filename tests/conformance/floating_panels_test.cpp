@@ -156,7 +156,8 @@ TEST_F(FloatingPanels, APanelThatEndsIsGone)
 {
   const auto was = panel().window();
   endPanel();
-  EXPECT_FALSE(was->isAlive());
+  EXPECT_FALSE(was->isVisible());
+  EXPECT_TRUE(stage().waitUntil([&] { return !was->isAlive(); }));
   EXPECT_THAT(platform().application.keyWindow(), IsSameWindow(window()));
 }
 
