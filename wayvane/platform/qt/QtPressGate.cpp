@@ -41,8 +41,12 @@ QtPressGate::Verdict& QtPressGate::remember(const QMouseEvent& event)
 bool QtPressGate::press(const QMouseEvent& event, const Judge& judge)
 {
   const bool isDouble = event.type() == QEvent::MouseButtonDblClick;
-  if (const Verdict* verdict = known(event))
-    return verdict->swallowed || (isDouble && verdict->followsSwallowed);
+  if (const Verdict* verdict = known(event)) {
+    const bool completesSwallowed = isDouble && verdict->followsSwallowed;
+    // Its release goes with it, although the press that came with it was passed on.
+    isSwallowing_ = isSwallowing_ || completesSwallowed;
+    return verdict->swallowed || completesSwallowed;
+  }
   Verdict& verdict = remember(event);
   const bool followsSwallowed = verdict.followsSwallowed;
   // The judge may run an event loop, in which other presses are judged.
