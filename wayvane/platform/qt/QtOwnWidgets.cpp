@@ -40,6 +40,12 @@ protected:
   {
     if (watched == dialog_) {
       if (event->type() == QEvent::Hide || event->type() == QEvent::Close) follow(nullptr);
+    } else if (watched->isWindowType()) {
+      // A window of the tool tip type is not told that it is blocked; its presses only go nowhere.
+      const bool isMouse = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::Enter;
+      if (isMouse && QGuiApplication::modalWindow()) follow(QGuiApplication::modalWindow());
+    } else if (event->type() == QEvent::PlatformSurface) {
+      if (auto* handle = static_cast<QWidget*>(watched)->windowHandle()) handle->installEventFilter(this);
     } else if (event->type() == QEvent::WindowBlocked || event->type() == QEvent::Show) {
       // Blocking is told while the list of dialogs is being walked.
       QMetaObject::invokeMethod(

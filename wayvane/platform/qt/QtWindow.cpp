@@ -71,7 +71,9 @@ platform::ViewHandle QtWindow::frameView() const
 
 bool QtWindow::isUtilityPanel() const
 {
-  return window_ && window_->windowType() == Qt::Tool;
+  if (!window_) return false;
+  // Some of our panels are tool tips to the toolkit, so that nothing activates them.
+  return window_->windowType() == Qt::Tool || (window_->windowType() == Qt::ToolTip && isOwnWidget(window_));
 }
 
 void QtWindow::displayIfNeeded()
