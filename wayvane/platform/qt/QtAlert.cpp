@@ -33,8 +33,11 @@ platform::AlertAnswer runAlert(const platform::AlertSpec& spec)
 {
   if (!qApp || QApplication::closingDown()) return {};
   const QPointer<QtAlertBox> box(new QtAlertBox(spec));
-  placeOver(*box, windowBelow());
+  const QPointer<QWidget> below = windowBelow();
+  placeOver(*box, below);
   box->exec();
+  // Without a window manager nobody else hands the keyboard back.
+  if (below && !QApplication::activeWindow()) below->activateWindow();
   if (!box) return {};
   const platform::AlertAnswer answer = box->answer();
   delete box;
