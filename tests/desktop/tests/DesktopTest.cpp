@@ -29,6 +29,13 @@ TEST(SimDesktop, TheLogKeepsItsLinesUntilItIsCleared)
   EXPECT_TRUE(desktop.log().empty());
 }
 
+TEST(SimDesktop, TheLogKeepsALineOneLine)
+{
+  Desktop desktop;
+  Platform::current()->log.write("one\ntwo\x7f");
+  EXPECT_THAT(desktop.log(), ElementsAre("one\\u000atwo\\u007f"));
+}
+
 TEST(SimDesktop, TheScreenCanBeChangedAndTakenAway)
 {
   Desktop desktop;

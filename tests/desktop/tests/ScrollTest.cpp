@@ -81,6 +81,29 @@ TEST_F(SimScroll, AScrollWhoseViewDiesCompletesOnce)
   EXPECT_EQ(scroll.documentVisibleRect(), Rect{});
 }
 
+TEST_F(SimScroll, AScrollViewThatIsGoneCompletesALaterScrollInALaterTurn)
+{
+  int done = 0;
+  scroll.destroy();
+  scroll.scrollToOrigin({0, 400}, {1, [&] { ++done; }});
+  EXPECT_EQ(done, 0);
+  desktop.runPending();
+  EXPECT_EQ(done, 1);
+}
+
+TEST_F(SimScroll, AScrollViewOfADesktopThatIsGoneStillCompletes)
+{
+  platform::ViewHandle handle;
+  {
+    Desktop other;
+    handle = other.addWindow("Other")->content().addScrollView().handle();
+  }
+  int done = 0;
+  static_cast<const ScrollView&>(*handle).scrollToOrigin({0, 400}, {1, [&] { ++done; }});
+  desktop.runPending();
+  EXPECT_EQ(done, 1);
+}
+
 TEST_F(SimScroll, AScrollViewMayHaveNoDocument)
 {
   ScrollView& empty = window->content().addScrollView();

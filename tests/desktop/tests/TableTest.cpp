@@ -146,6 +146,8 @@ TEST_F(SimTable, ADeadTableAnswersNothing)
   EXPECT_EQ(role->viewAtColumnRow(0, 0, MakeIfNecessary::Yes), nullptr);
   int done = 0;
   role->scrollRowToVisible(0, {1, [&] { ++done; }});
+  EXPECT_EQ(done, 0);
+  desktop.runPending();
   EXPECT_EQ(done, 1);
 }
 
