@@ -6,7 +6,6 @@
 #include <QPainter>
 
 #include <cmath>
-#include <limits>
 
 namespace wayvane::qt {
 
@@ -183,8 +182,7 @@ void QtScenePainter::paintOwn(const Surroundings& own, const Layer& layer, const
   if (layer.kind() == LayerKind::Text && !layer.text().isEmpty()) {
     own.painter->save();
     own.painter->setClipRect(boundsOf(layer), Qt::IntersectClip);
-    const double width = layer.wrapsText() ? layer.frame().width : std::numeric_limits<double>::infinity();
-    QtTextLayout(layer.text(), width, own.appearance).draw(*own.painter);
+    QtTextLayout(layer.text(), layer.frame().width, layer.wrapsText(), own.appearance).draw(*own.painter);
     own.painter->restore();
   }
 }

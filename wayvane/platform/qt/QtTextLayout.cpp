@@ -6,7 +6,6 @@
 #include <QPainter>
 
 #include <algorithm>
-#include <cmath>
 
 namespace wayvane::qt {
 
@@ -21,7 +20,8 @@ constexpr QChar kPlaceholder = QChar::Nbsp;
 
 } // namespace
 
-QtTextLayout::QtTextLayout(const AttributedText& text, double width, platform::Appearance appearance)
+QtTextLayout::QtTextLayout(const AttributedText& text, double width, bool wraps,
+                           platform::Appearance appearance)
   : appearance_(appearance)
 {
   if (text.isEmpty()) return;
@@ -29,7 +29,7 @@ QtTextLayout::QtTextLayout(const AttributedText& text, double width, platform::A
   for (const AttributedText::Run& run : text.runs)
     addRun(run);
   for (std::size_t i = 0; i < paragraphs_.size(); ++i)
-    breakLines(static_cast<int>(i), width);
+    breakLines(static_cast<int>(i), width, wraps);
 }
 
 void QtTextLayout::addRun(const AttributedText::Run& run)
@@ -72,19 +72,19 @@ void QtTextLayout::addAttachment(const AttributedText::Run& run)
   addText(kPlaceholder, format);
 }
 
-void QtTextLayout::breakLines(int index, double width)
+void QtTextLayout::breakLines(int index, double width, bool wraps)
 {
   Paragraph& paragraph = paragraphs_[static_cast<std::size_t>(index)];
-  const bool wraps = std::isfinite(width);
   paragraph.layout = std::make_unique<QTextLayout>(paragraph.text, paragraph.font);
   QTextLayout& layout = *paragraph.layout;
   QTextOption option;
   option.setWrapMode(wraps ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::ManualWrap);
+  if (paragraph.text.isRightToLeft()) option.setAlignment(Qt::AlignRight);
   layout.setTextOption(option);
   layout.setFormats(paragraph.formats);
   layout.beginLayout();
   for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-    line.setLineWidth(wraps ? std::max(width, 1.0) : kUnbounded);
+    line.setLineWidth(std::clamp(width, 1.0, kUnbounded));
     double ascent = line.ascent();
     double descent = line.descent();
     growByAttachments(index, line, ascent, descent);

@@ -14,12 +14,14 @@ namespace wayvane::qt {
 /// Text broken into lines: the one layout that is both measured and drawn.
 class QtTextLayout {
 public:
-  /// An infinite width does not wrap. Text is literal; a line break begins a new paragraph.
-  QtTextLayout(const platform::AttributedText& text, double width, platform::Appearance appearance);
+  /// Text is literal; a line break begins a new paragraph. Without wrapping the width only says where
+  /// right-to-left paragraphs begin.
+  QtTextLayout(const platform::AttributedText& text, double width, bool wraps,
+               platform::Appearance appearance);
 
   [[nodiscard]] platform::Size size() const { return size_; }
 
-  /// Draws with the top left of the text at (0, 0). Right-to-left paragraphs end at `width`.
+  /// Draws with the top left of the text at (0, 0).
   void draw(QPainter& painter) const;
 
 private:
@@ -40,7 +42,7 @@ private:
   void addRun(const platform::AttributedText::Run& run);
   void addText(const QString& text, const QTextCharFormat& format);
   void addAttachment(const platform::AttributedText::Run& run);
-  void breakLines(int index, double width);
+  void breakLines(int index, double width, bool wraps);
   /// Where the attachments of a line reach, above and below its baseline.
   void growByAttachments(int paragraph, const QTextLine& line, double& ascent, double& descent) const;
 
