@@ -144,8 +144,9 @@ bool QtEvents::eventFilter(QObject* receiver, QEvent* event)
 bool QtEvents::handleMouse(QObject* receiver, const QMouseEvent& event)
 {
   last_ = event.globalPosition();
+  const auto stage = receiver->isWindowType() ? QtPressGate::Stage::Window : QtPressGate::Stage::Widget;
   const bool isHeldBack =
-      gate_.holdsBack(event, [&](const QMouseEvent& asked) { return judge(receiver, asked); });
+      gate_.holdsBack(event, stage, [&](const QMouseEvent& asked) { return judge(receiver, asked); });
   if (event.type() == QEvent::MouseButtonRelease) stopWhenUnheard();
   return isHeldBack;
 }

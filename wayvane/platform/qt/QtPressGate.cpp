@@ -6,12 +6,12 @@ namespace wayvane::qt {
 
 using platform::EventVerdict;
 
-bool QtPressGate::holdsBack(const QMouseEvent& event, const Judge& judge)
+bool QtPressGate::holdsBack(const QMouseEvent& event, Stage stage, const Judge& judge)
 {
   switch (event.type()) {
   case QEvent::MouseButtonPress:
   case QEvent::MouseButtonDblClick:
-    return event.button() == Qt::LeftButton && press(event, judge);
+    return event.button() == Qt::LeftButton && press(event, stage, judge);
   case QEvent::MouseMove:
     return move(event, judge);
   case QEvent::MouseButtonRelease:
@@ -21,12 +21,16 @@ bool QtPressGate::holdsBack(const QMouseEvent& event, const Judge& judge)
   }
 }
 
-const QtPressGate::Verdict* QtPressGate::known(const QMouseEvent& event) const
+const QtPressGate::Verdict* QtPressGate::known(const QMouseEvent& event, Stage stage) const
 {
-  for (const Verdict& verdict : presses_)
-    if (verdict.isOpen && verdict.timestamp == event.timestamp() &&
+  for (const Verdict& verdict : presses_) {
+    // A press is passed up among widgets even after its release, when a handler ran an event loop. Events
+    // without a time all look the same.
+    const bool isOver = verdict.isReleased && (stage == Stage::Window || verdict.timestamp == 0);
+    if (verdict.isKnown && !isOver && verdict.timestamp == event.timestamp() &&
         (verdict.position - event.globalPosition()).manhattanLength() < 2)
       return &verdict;
+  }
   return nullptr;
 }
 
@@ -34,14 +38,14 @@ QtPressGate::Verdict& QtPressGate::remember(const QMouseEvent& event)
 {
   const bool followsSwallowed = presses_[newest_].swallowed;
   newest_ = (newest_ + 1) % presses_.size();
-  presses_[newest_] = {event.timestamp(), event.globalPosition(), false, followsSwallowed, true};
+  presses_[newest_] = {event.timestamp(), event.globalPosition(), false, followsSwallowed, true, false};
   return presses_[newest_];
 }
 
-bool QtPressGate::press(const QMouseEvent& event, const Judge& judge)
+bool QtPressGate::press(const QMouseEvent& event, Stage stage, const Judge& judge)
 {
   const bool isDouble = event.type() == QEvent::MouseButtonDblClick;
-  if (const Verdict* verdict = known(event)) {
+  if (const Verdict* verdict = known(event, stage)) {
     const bool completesSwallowed = isDouble && verdict->followsSwallowed;
     // Its release goes with it, although the press that came with it was passed on.
     isSwallowing_ = isSwallowing_ || completesSwallowed;
@@ -60,18 +64,17 @@ bool QtPressGate::press(const QMouseEvent& event, const Judge& judge)
 bool QtPressGate::move(const QMouseEvent& event, const Judge& judge)
 {
   if (event.buttons() != Qt::NoButton) return isSwallowing_ && event.buttons().testFlag(Qt::LeftButton);
-  if (move_.isOpen && move_.timestamp == event.timestamp() && move_.position == event.globalPosition())
+  if (move_.isKnown && move_.timestamp == event.timestamp() && move_.position == event.globalPosition())
     return move_.swallowed;
-  move_ = {event.timestamp(), event.globalPosition(), false, false, event.timestamp() != 0};
+  move_ = {event.timestamp(), event.globalPosition(), false, false, event.timestamp() != 0, false};
   move_.swallowed = judge(event) == EventVerdict::Swallow;
   return move_.swallowed;
 }
 
 bool QtPressGate::release()
 {
-  // Events without a time of their own look all the same: theirs end with the release.
   for (Verdict& verdict : presses_)
-    if (verdict.timestamp == 0) verdict.isOpen = false;
+    verdict.isReleased = true;
   const bool swallows = isSwallowing_;
   isSwallowing_ = false;
   return swallows;

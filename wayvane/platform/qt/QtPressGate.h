@@ -5,6 +5,7 @@
 #include <QPointF>
 
 #include <array>
+#include <cstdint>
 #include <functional>
 
 class QMouseEvent;
@@ -17,8 +18,11 @@ class QtPressGate {
 public:
   using Judge = std::function<platform::EventVerdict(const QMouseEvent&)>;
 
+  /// Where the delivery goes: to a window first, from there to widgets.
+  enum class Stage : std::uint8_t { Window, Widget };
+
   /// Whether the delivery is to be held back. `judge` is asked at most once for each press or movement.
-  [[nodiscard]] bool holdsBack(const QMouseEvent& event, const Judge& judge);
+  [[nodiscard]] bool holdsBack(const QMouseEvent& event, Stage stage, const Judge& judge);
 
   [[nodiscard]] bool isSwallowing() const { return isSwallowing_; }
 
@@ -29,14 +33,15 @@ private:
     bool swallowed = false;
     /// The press before was swallowed, so that a double click made of both belongs to it.
     bool followsSwallowed = false;
-    /// False when the delivery can no longer be met again.
-    bool isOpen = false;
+    bool isKnown = false;
+    /// The button came up again: what now reaches a window, with whatever time, is another press.
+    bool isReleased = false;
   };
 
-  [[nodiscard]] bool press(const QMouseEvent& event, const Judge& judge);
+  [[nodiscard]] bool press(const QMouseEvent& event, Stage stage, const Judge& judge);
   [[nodiscard]] bool move(const QMouseEvent& event, const Judge& judge);
   [[nodiscard]] bool release();
-  [[nodiscard]] const Verdict* known(const QMouseEvent& event) const;
+  [[nodiscard]] const Verdict* known(const QMouseEvent& event, Stage stage) const;
   Verdict& remember(const QMouseEvent& event);
 
   /// Presses may be judged while an earlier one is still being passed up: a handler can run an event loop.
