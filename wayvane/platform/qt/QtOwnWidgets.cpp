@@ -26,45 +26,45 @@ void deleteWindowsOfOurs()
 }
 
 /// A modal dialog blocks every window but those that belong to it. So the window comes to belong to whichever
-/// dialog blocks it, and to nobody when that one is gone.
+/// dialog is the innermost one.
 class ModalityExemption final : public QObject {
 public:
   explicit ModalityExemption(QWidget& window)
     : QObject(&window)
   {
-    window.installEventFilter(this);
+    qApp->installEventFilter(this);
   }
 
 protected:
   bool eventFilter(QObject* watched, QEvent* event) override
   {
-    if (watched == dialog_) {
-      if (event->type() == QEvent::Hide || event->type() == QEvent::Close) follow(nullptr);
-    } else if (watched->isWindowType()) {
-      // A window of the tool tip type is not told that it is blocked; its presses only go nowhere.
-      const bool isMouse = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::Enter;
-      if (isMouse && QGuiApplication::modalWindow()) follow(QGuiApplication::modalWindow());
-    } else if (event->type() == QEvent::PlatformSurface) {
-      if (auto* handle = static_cast<QWidget*>(watched)->windowHandle()) handle->installEventFilter(this);
-    } else if (event->type() == QEvent::WindowBlocked || event->type() == QEvent::Show) {
-      // Blocking is told while the list of dialogs is being walked.
-      QMetaObject::invokeMethod(
-          this, [this] { follow(QGuiApplication::modalWindow()); }, Qt::QueuedConnection);
+    if (event->type() == QEvent::Hide && dialog_ && watched == dialog_) {
+      follow(nullptr);
+      followSoon();
+    } else if (event->type() == QEvent::Show) {
+      const bool isDialog =
+          watched->isWindowType() && static_cast<QWindow*>(watched)->modality() != Qt::NonModal;
+      if (isDialog || watched == parent()) followSoon();
     }
     return false;
   }
 
 private:
+  /// The toolkit's list of dialogs is complete only after the showing.
+  void followSoon()
+  {
+    QMetaObject::invokeMethod(
+        this, [this] { follow(QGuiApplication::modalWindow()); }, Qt::QueuedConnection);
+  }
+
   void follow(QWindow* dialog)
   {
     auto* window = static_cast<QWidget*>(parent());
-    if (!window->windowHandle() || dialog == window->windowHandle() || dialog == dialog_) return;
-    if (dialog_) dialog_->removeEventFilter(this);
-    if (!usual_) usual_ = window->windowHandle()->transientParent();
+    QWindow* native = window->windowHandle();
+    if (!native || dialog == native || dialog == dialog_) return;
+    if (!dialog_) usual_ = native->transientParent();
     dialog_ = dialog;
-    if (dialog_) dialog_->installEventFilter(this);
-    window->windowHandle()->setTransientParent(dialog_ ? dialog_.data() : usual_.data());
-    if (!dialog_) usual_.clear();
+    native->setTransientParent(dialog_ ? dialog_.data() : usual_.data());
     if (window->isVisible()) window->raise();
   }
 
