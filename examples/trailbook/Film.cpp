@@ -117,7 +117,8 @@ bool annotate(User& user, const QString& title, const QString& message)
 {
   if (!user.waitUntil([] { return User::field("titleField") != nullptr; })) return complain("no popover");
   QWidget& popover = *User::field("titleField")->window();
-  user.waitUntil([&popover] { return popover.focusWidget() == User::field("titleField"); });
+  // The field gets the keyboard on a later turn of the main loop.
+  user.wait(100);
   user.type(popover, title);
   user.press(popover, Qt::Key_Tab);
   user.type(popover, message);

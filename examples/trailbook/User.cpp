@@ -77,8 +77,8 @@ void User::press(QWidget& window, Qt::Key key)
 
 QMenu* User::openMenu(const QString& title)
 {
-  auto* const bar = qobject_cast<QMainWindow&>(window_).menuBar();
-  for (const QAction* const action : bar->actions())
+  auto* const bar = qobject_cast<QMainWindow*>(&window_)->menuBar();
+  for (QAction* const action : bar->actions())
     if (withoutMnemonic(action->text()) == title && action->menu()) {
       click(*bar, bar->actionGeometry(action).center());
       QMenu* const menu = action->menu();

@@ -125,6 +125,7 @@ int main(int argc, char** argv)
   trailbook::MainWindow window;
   window.show();
   wayvane::qt::install();
+  WVGuideManager::sharedManager().setStringsFileNames({"trailbook"});
   putIntoLibrary(options.samples);
 
   if (!options.film.isEmpty())

@@ -24,8 +24,10 @@ Completion calledOnce(Completion completion)
   };
 }
 
+/// A table that scrolls by itself, as on some toolkits, is its own scroll view.
 ViewHandle enclosingScrollView(const platform::View& view)
 {
+  if (view.as<platform::TableView>() && view.as<platform::ScrollView>()) return view.handle();
   ViewHandle ancestor = view.superview();
   while (ancestor && !ancestor->as<platform::ScrollView>())
     ancestor = ancestor->superview();

@@ -2,13 +2,13 @@
 
 #include <wayvane/overlay/WVBubbleView.h>
 #include <wayvane/platform/qt/Conversions.h>
+#include <wayvane/platform/qt/QtOverlayWidget.h>
 #include <wayvane/platform/qt/QtPlatform.h>
 #include <wayvane/platform/qt/QtWindow.h>
 
 #include <QAbstractButton>
-#include <QHBoxLayout>
-#include <QHeaderView>
-#include <QMessageBox>
+#include <QDialog>
+#include <QLabel>
 #include <QTimer>
 #include <QWindow>
 
@@ -139,8 +139,9 @@ void PlaybackTest::answerNextAlert(const QString& button)
 
 QWidget* PlaybackTest::overlay() const
 {
-  const platform::WindowHandle window = player->overlayWindow() ? player->overlayWindow()->window() : nullptr;
-  return window ? widgetOf(*window) : nullptr;
+  const platform::WindowHandle parent =
+      player->overlayWindow() ? player->overlayWindow()->parentWindow() : nullptr;
+  return parent ? widgetOf(*parent)->findChild<QtOverlayWidget*>() : nullptr;
 }
 
 } // namespace wayvane::qt::test

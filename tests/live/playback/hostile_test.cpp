@@ -1,5 +1,6 @@
 #include "PlaybackTest.h"
 
+#include <QDialog>
 #include <QTimer>
 
 #include <random>
@@ -22,11 +23,11 @@ public:
 
   void act()
   {
-    const std::vector<QPointer<QWidget>> victims{host_.save,  host_.far,    host_.other, host_.scroll,
-                                                 host_.table, host_.second, host_.main};
+    QWidget* const victims[] = {host_.save,  host_.far,    host_.other, host_.scroll,
+                                host_.table, host_.second, host_.main};
     switch (below(6)) {
     case 0:
-      delete victims[static_cast<std::size_t>(below(7))].data();
+      delete victims[below(7)];
       break;
     case 1:
       press(host_.save);

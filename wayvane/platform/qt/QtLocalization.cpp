@@ -1,3 +1,5 @@
+#include <wayvane/platform/FrameworkTexts.h>
+#include <wayvane/platform/StringsFile.h>
 #include <wayvane/platform/qt/Conversions.h>
 #include <wayvane/platform/qt/QtLocalization.h>
 #include <wayvane/platform/qt/QtStringTables.h>
@@ -6,15 +8,16 @@
 #include <QDir>
 #include <QFile>
 #include <QLocale>
+#include <QRegularExpression>
 #include <QVariant>
+
+#include <utility>
 
 namespace wayvane::qt {
 
 using platform::StringTable;
 
 namespace {
-
-constexpr qint64 kLargestTable = 16 * 1024 * 1024;
 
 QStringList translationFolders()
 {
@@ -28,7 +31,8 @@ QStringList translationFolders()
 std::optional<QByteArray> contents(const QString& path)
 {
   QFile file(path);
-  if (!QFileInfo(file).isFile() || file.size() > kLargestTable || !file.open(QIODevice::ReadOnly))
+  if (!QFileInfo(file).isFile() || file.size() > static_cast<qint64>(platform::kStringsFileSizeLimit) ||
+      !file.open(QIODevice::ReadOnly))
     return std::nullopt;
   return file.readAll();
 }
@@ -48,15 +52,40 @@ QString languageOfFile(const QString& baseName)
   return {};
 }
 
+/// The language in which the sources of a translation source file are written. Only its beginning is read.
+QString sourceLanguageOf(const QString& path)
+{
+  QFile file(path);
+  if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly)) return {};
+  static const QRegularExpression attribute(QStringLiteral("sourcelanguage=\"([A-Za-z]+)"));
+  return attribute.match(QString::fromUtf8(file.read(1024))).captured(1);
+}
+
 QStringList languagesIn(const QString& folder)
 {
   QStringList languages;
   const QDir dir(folder);
   for (const QString& name : dir.entryList({QStringLiteral("*.ts")}, QDir::Files, QDir::Name))
-    languages << languageOfFile(name.chopped(3));
+    languages << languageOfFile(name.chopped(3)) << sourceLanguageOf(dir.filePath(name));
   for (const QString& name : dir.entryList({QStringLiteral("*.lproj")}, QDir::Dirs, QDir::Name))
     languages << name.chopped(6);
   return languages;
+}
+
+std::optional<StringTable> tableInFolder(const QDir& dir, const QString& name, const QString& code)
+{
+  if (const auto bytes =
+          contents(dir.filePath(code + QStringLiteral(".lproj/") + name + QStringLiteral(".strings"))))
+    return platform::stringTableFromStringsFile(
+        {bytes->constData(), static_cast<std::size_t>(bytes->size())});
+  if (const auto bytes = contents(dir.filePath(name + u'_' + code + QStringLiteral(".ts"))))
+    if (auto file = readTranslationSource(*bytes)) return std::move(file->translations);
+  // No file translates into the language that the program is written in; any of the others tells its texts.
+  for (const QString& other : dir.entryList({name + QStringLiteral("_*.ts")}, QDir::Files, QDir::Name))
+    if (sourceLanguageOf(dir.filePath(other)) == code)
+      if (const auto bytes = contents(dir.filePath(other)))
+        if (auto file = readTranslationSource(*bytes)) return std::move(file->sources);
+  return std::nullopt;
 }
 
 std::optional<std::string> translated(std::string_view table, std::string_view key)
@@ -79,7 +108,9 @@ std::optional<std::string> QtLocalization::languageCode() const
 
 std::optional<std::string> QtLocalization::frameworkString(std::string_view key) const
 {
-  return hostString("Wayvane", key);
+  // The host's own table wins, so that it can reword what the framework says.
+  if (auto text = hostString("Wayvane", key)) return text;
+  return platform::frameworkText(languageCode().value_or("en"), key);
 }
 
 std::optional<std::string> QtLocalization::hostString(std::string_view table, std::string_view key) const
@@ -112,13 +143,8 @@ std::optional<StringTable> QtLocalization::hostTable(std::string_view table, std
   const QString code = toQString(language);
   // Names come from guides and hosts; they never lead out of the folders.
   if (name.isEmpty() || code.isEmpty() || name.contains(u'/') || code.contains(u'/')) return std::nullopt;
-  for (const QString& folder : translationFolders()) {
-    if (const auto bytes =
-            contents(folder + u'/' + code + QStringLiteral(".lproj/") + name + QStringLiteral(".strings")))
-      return stringTableFromStrings(*bytes);
-    if (const auto bytes = contents(folder + u'/' + name + u'_' + code + QStringLiteral(".ts")))
-      return stringTableFromTranslationSource(*bytes);
-  }
+  for (const QString& folder : translationFolders())
+    if (auto found = tableInFolder(QDir(folder), name, code)) return found;
   return std::nullopt;
 }
 

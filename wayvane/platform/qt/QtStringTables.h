@@ -4,14 +4,22 @@
 
 #include <QByteArray>
 
+#include <optional>
+
 namespace wayvane::qt {
 
-/// A table of a ".strings" file: lines `"key" = "text";` with comments, UTF-8 or UTF-16. Nothing when it is
-/// not one; half a table is none.
-[[nodiscard]] std::optional<platform::StringTable> stringTableFromStrings(const QByteArray& bytes);
+/// What a translation source file (".ts") says.
+struct TranslationSourceFile {
+  /// Source text to finished translation, both as they are shown: without mnemonics. Where two contexts
+  /// translate the same source differently, the later one in the file counts.
+  platform::StringTable translations;
+  /// Source text to itself: the program's own language as a table.
+  platform::StringTable sources;
+  /// The bare code of the language the sources are written in; empty when the file does not say.
+  std::string sourceLanguage;
+};
 
-/// The finished texts of a translation source file (".ts"), by their source texts. Nothing when it is not
-/// well-formed.
-[[nodiscard]] std::optional<platform::StringTable> stringTableFromTranslationSource(const QByteArray& bytes);
+/// Nothing when the file is not well-formed XML.
+[[nodiscard]] std::optional<TranslationSourceFile> readTranslationSource(const QByteArray& bytes);
 
 } // namespace wayvane::qt
