@@ -1,7 +1,7 @@
 #include <wayvane/platform/qt/Conversions.h>
 #include <wayvane/platform/qt/QtBindings.h>
-#include <wayvane/platform/qt/QtChildWatch.h>
 #include <wayvane/platform/qt/QtHostProperties.h>
+#include <wayvane/platform/qt/QtObjectWatch.h>
 
 #include <QAbstractItemModel>
 #include <QDataWidgetMapper>
@@ -71,7 +71,7 @@ std::optional<std::string> declaredKeyPath(const QWidget& widget, const ClassInf
 std::optional<std::string> keyPathOfBinding(const QWidget& widget, const ClassInfo& info,
                                             std::string_view binding)
 {
-  if (info.declaresHostProperties || carriesHostProperties(widget)) {
+  if (mayHaveHostProperties(widget, info)) {
     if (auto path = declaredKeyPath(widget, info, binding)) return path;
   }
   return mappedKeyPath(widget, binding);

@@ -13,10 +13,10 @@ std::string QtBoxView::title() const
   return box ? toUtf8(withoutMnemonic(box->title())) : std::string();
 }
 
-const void* QtBoxView::role(ViewKind kind) const
+const void* QtBoxView::roleOfKind(ViewKind kind) const
 {
   if (kind == ViewKind::Box) return static_cast<const platform::Box*>(this);
-  return QtView::role(kind);
+  return QtView::roleOfKind(kind);
 }
 
 } // namespace wayvane::qt

@@ -11,7 +11,7 @@ public:
 
 protected:
   [[nodiscard]] std::string title() const override;
-  [[nodiscard]] const void* role(platform::ViewKind kind) const override;
+  [[nodiscard]] const void* roleOfKind(platform::ViewKind kind) const override;
 };
 
 } // namespace wayvane::qt

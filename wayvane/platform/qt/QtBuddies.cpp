@@ -1,6 +1,6 @@
 #include <wayvane/platform/qt/Conversions.h>
 #include <wayvane/platform/qt/QtBuddies.h>
-#include <wayvane/platform/qt/QtChildWatch.h>
+#include <wayvane/platform/qt/QtObjectWatch.h>
 
 #include <QLabel>
 #include <QPointer>

@@ -82,10 +82,10 @@ QString QtButtonView::actionName(const QWidget& widget) const
   return isGivenName(own) ? own : QString();
 }
 
-const void* QtButtonView::role(ViewKind kind) const
+const void* QtButtonView::roleOfKind(ViewKind kind) const
 {
   if (kind == ViewKind::Button) return static_cast<const platform::Button*>(this);
-  return QtControlView::role(kind);
+  return QtControlView::roleOfKind(kind);
 }
 
 } // namespace wayvane::qt

@@ -21,7 +21,7 @@ protected:
   /// Without the tip that actions make of their text.
   [[nodiscard]] QString ownToolTip(const QWidget& widget) const override;
   [[nodiscard]] QString actionName(const QWidget& widget) const override;
-  [[nodiscard]] const void* role(platform::ViewKind kind) const override;
+  [[nodiscard]] const void* roleOfKind(platform::ViewKind kind) const override;
 
 private:
   [[nodiscard]] const QAbstractButton* button() const;

@@ -109,53 +109,39 @@ ClassInfo describe(const QMetaObject* metaObject)
   return info;
 }
 
-/// An open-addressed table from a class to what is known about it: one probe, nearly always.
-class ClassTable {
+/// The known classes, and the table that finds them.
+class KnownClasses {
 public:
-  const ClassInfo& find(const QMetaObject* metaObject)
+  const ClassInfo& add(const QMetaObject* metaObject)
   {
-    if (const ClassInfo* known = probe(metaObject)) return *known;
-    if (++count_ * 2 > slots_.size()) grow();
     infos_.push_back(std::make_unique<ClassInfo>(describe(metaObject)));
+    if (infos_.size() * 2 > entries_.size()) grow();
     place(infos_.back().get());
     return *infos_.back();
   }
 
 private:
-  [[nodiscard]] std::size_t first(const QMetaObject* metaObject) const
-  {
-    return (reinterpret_cast<std::uintptr_t>(metaObject) >> 4U) & (slots_.size() - 1);
-  }
-
-  [[nodiscard]] const ClassInfo* probe(const QMetaObject* metaObject) const
-  {
-    for (std::size_t i = first(metaObject); slots_[i]; i = (i + 1) & (slots_.size() - 1)) {
-      // A plug-in that was unloaded may have left its address to another class.
-      if (slots_[i]->metaObject == metaObject && slots_[i]->superClass == metaObject->superClass())
-        return slots_[i];
-    }
-    return nullptr;
-  }
-
   void place(const ClassInfo* info)
   {
-    std::size_t i = first(info->metaObject);
-    while (slots_[i])
-      i = (i + 1) & (slots_.size() - 1);
-    slots_[i] = info;
+    std::size_t i = detail::classTable.place(info->metaObject);
+    while (entries_[i] && entries_[i] != info)
+      i = (i + 1) & detail::classTable.mask;
+    entries_[i] = info;
   }
 
   void grow()
   {
-    slots_.assign(slots_.size() * 2, nullptr);
+    entries_.assign(std::max<std::size_t>(512, entries_.size() * 2), nullptr);
+    detail::classTable = {entries_.data(), entries_.size() - 1};
     for (const auto& info : infos_)
       place(info.get());
   }
 
-  std::vector<const ClassInfo*> slots_ = std::vector<const ClassInfo*>(512, nullptr);
+  std::vector<const ClassInfo*> entries_;
   std::vector<std::unique_ptr<ClassInfo>> infos_;
-  std::size_t count_ = 0;
 };
+
+const ClassInfo* const kNoClass = nullptr;
 
 template <class... Widgets>
 constexpr std::array<const QMetaObject*, sizeof...(Widgets)> metaObjects()
@@ -198,11 +184,13 @@ const QMetaObject* livingClassNamed(std::string_view name)
 
 } // namespace
 
-const ClassInfo& classInfo(const QMetaObject* metaObject)
+detail::ClassTable detail::classTable{&kNoClass, 0};
+
+const ClassInfo& detail::addClass(const QMetaObject* metaObject)
 {
   // Never destroyed: handles may be asked while the program ends.
-  static auto* const table = new ClassTable;
-  return table->find(metaObject);
+  static auto* const known = new KnownClasses;
+  return known->add(metaObject);
 }
 
 const QMetaObject* classNamed(std::string_view name)

@@ -4,6 +4,8 @@
 
 #include <QMetaObject>
 
+#include <cstddef>
+#include <cstdint>
 #include <string_view>
 
 namespace wayvane::qt {
@@ -41,8 +43,36 @@ struct ClassInfo {
   [[nodiscard]] bool is(platform::ViewKind kind) const { return (kinds >> static_cast<unsigned>(kind)) & 1U; }
 };
 
-/// The entry of a class; it stays where it is. Main thread only.
-[[nodiscard]] const ClassInfo& classInfo(const QMetaObject* metaObject);
+namespace detail {
+
+/// An open-addressed table from a class to what is known about it, never more than half full.
+struct ClassTable {
+  const ClassInfo* const* entries;
+  std::size_t mask;
+
+  [[nodiscard]] std::size_t place(const QMetaObject* metaObject) const
+  {
+    return (reinterpret_cast<std::uintptr_t>(metaObject) >> 4U) & mask;
+  }
+};
+
+extern ClassTable classTable;
+const ClassInfo& addClass(const QMetaObject* metaObject);
+
+} // namespace detail
+
+/// The entry of a class; it stays where it is. Nearly always found at the first look. Main thread only.
+[[nodiscard]] inline const ClassInfo& classInfo(const QMetaObject* metaObject)
+{
+  const detail::ClassTable& table = detail::classTable;
+  for (std::size_t i = table.place(metaObject); table.entries[i]; i = (i + 1) & table.mask) {
+    const ClassInfo& info = *table.entries[i];
+    // A plug-in that was unloaded may have left its address to another class.
+    if (info.metaObject == metaObject && info.superClass == metaObject->superClass()) return info;
+  }
+  return detail::addClass(metaObject);
+}
+
 /// The class of that name: one of the toolkit's widget classes, or one that a living widget has or inherits.
 /// Null when there is none.
 [[nodiscard]] const QMetaObject* classNamed(std::string_view name);

@@ -31,10 +31,10 @@ QString QtControlView::actionName(const QWidget& widget) const
   return {};
 }
 
-const void* QtControlView::role(ViewKind kind) const
+const void* QtControlView::roleOfKind(ViewKind kind) const
 {
   if (kind == ViewKind::Control) return static_cast<const platform::Control*>(this);
-  return QtView::role(kind);
+  return QtView::roleOfKind(kind);
 }
 
 } // namespace wayvane::qt

@@ -14,7 +14,7 @@ protected:
   [[nodiscard]] bool actionEquals(const platform::SearchText& name) const override;
   /// The name of the action that stands behind the widget; empty when there is none.
   [[nodiscard]] virtual QString actionName(const QWidget& widget) const;
-  [[nodiscard]] const void* role(platform::ViewKind kind) const override;
+  [[nodiscard]] const void* roleOfKind(platform::ViewKind kind) const override;
 };
 
 } // namespace wayvane::qt

@@ -15,8 +15,7 @@ bool carriesHostProperties(const QObject& object)
 
 QVariant hostValue(const QWidget& widget, const ClassInfo& info, const char* name)
 {
-  if (!info.declaresHostProperties && !carriesHostProperties(widget)) return {};
-  return widget.property(name);
+  return mayHaveHostProperties(widget, info) ? widget.property(name) : QVariant();
 }
 
 QVariant hostValue(const QObject& object, const char* name)

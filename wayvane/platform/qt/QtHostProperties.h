@@ -1,6 +1,7 @@
 #pragma once
 
 #include <wayvane/platform/qt/QtClasses.h>
+#include <wayvane/platform/qt/QtObjectWatch.h>
 
 #include <QString>
 #include <QVariant>
@@ -10,9 +11,15 @@ class QWidget;
 
 namespace wayvane::qt {
 
-/// Whether the object has dynamic properties of the host's for us ("wv_..."). Nanoseconds for those that have
-/// none.
+/// Whether the object has dynamic properties of the host's for us ("wv_...").
 [[nodiscard]] bool carriesHostProperties(const QObject& object);
+
+/// False when the widget certainly has none, neither dynamic nor declared by its class. Next to free.
+[[nodiscard]] inline bool mayHaveHostProperties(const QWidget& widget, const ClassInfo& info)
+{
+  return info.declaresHostProperties || mayCarryHostProperties(widget);
+}
+
 /// The value of such a property, declared by the class or set dynamically; invalid when there is none.
 [[nodiscard]] QVariant hostValue(const QWidget& widget, const ClassInfo& info, const char* name);
 /// The same for objects of which only dynamic properties count.

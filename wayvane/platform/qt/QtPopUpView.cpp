@@ -59,11 +59,11 @@ QString QtPopUpView::derivedLabel(const QWidget& widget) const
   return buddyText(widget);
 }
 
-const void* QtPopUpView::role(ViewKind kind) const
+const void* QtPopUpView::roleOfKind(ViewKind kind) const
 {
   if (kind == ViewKind::Button) return static_cast<const platform::Button*>(this);
   if (kind == ViewKind::PopUpButton) return static_cast<const platform::PopUpButton*>(this);
-  return QtControlView::role(kind);
+  return QtControlView::roleOfKind(kind);
 }
 
 } // namespace wayvane::qt

@@ -18,7 +18,7 @@ protected:
   [[nodiscard]] platform::ImageHandle image() const override;
   [[nodiscard]] std::optional<std::string> titleOfSelectedItem() const override;
   [[nodiscard]] QString derivedLabel(const QWidget& widget) const override;
-  [[nodiscard]] const void* role(platform::ViewKind kind) const override;
+  [[nodiscard]] const void* roleOfKind(platform::ViewKind kind) const override;
 
 private:
   [[nodiscard]] const QComboBox* box() const;

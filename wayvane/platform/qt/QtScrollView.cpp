@@ -51,10 +51,10 @@ void QtScrollView::scrollToOrigin(platform::Point origin, platform::ScrollAnimat
   scrollBarsTo(*a, values, std::move(animation));
 }
 
-const void* QtScrollView::role(ViewKind kind) const
+const void* QtScrollView::roleOfKind(ViewKind kind) const
 {
   if (kind == ViewKind::ScrollView) return static_cast<const platform::ScrollView*>(this);
-  return QtView::role(kind);
+  return QtView::roleOfKind(kind);
 }
 
 } // namespace wayvane::qt

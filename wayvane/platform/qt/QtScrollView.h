@@ -16,7 +16,7 @@ protected:
   [[nodiscard]] platform::Rect documentVisibleRect() const override;
   [[nodiscard]] platform::Rect documentBounds() const override;
   void scrollToOrigin(platform::Point origin, platform::ScrollAnimation animation) const override;
-  [[nodiscard]] const void* role(platform::ViewKind kind) const override;
+  [[nodiscard]] const void* roleOfKind(platform::ViewKind kind) const override;
 
 private:
   [[nodiscard]] QScrollArea* area() const;

@@ -30,10 +30,10 @@ std::optional<std::string> QtSegmentedView::labelForSegment(int segment) const
   return b ? toOptional(withoutMnemonic(b->tabText(segment))) : std::nullopt;
 }
 
-const void* QtSegmentedView::role(ViewKind kind) const
+const void* QtSegmentedView::roleOfKind(ViewKind kind) const
 {
   if (kind == ViewKind::SegmentedControl) return static_cast<const platform::SegmentedControl*>(this);
-  return QtControlView::role(kind);
+  return QtControlView::roleOfKind(kind);
 }
 
 } // namespace wayvane::qt

@@ -15,7 +15,7 @@ protected:
   [[nodiscard]] int selectedSegment() const override;
   [[nodiscard]] int segmentCount() const override;
   [[nodiscard]] std::optional<std::string> labelForSegment(int segment) const override;
-  [[nodiscard]] const void* role(platform::ViewKind kind) const override;
+  [[nodiscard]] const void* roleOfKind(platform::ViewKind kind) const override;
 
 private:
   [[nodiscard]] const QTabBar* bar() const;

@@ -20,11 +20,11 @@ QAbstractItemView* QtTableView::itemView() const
   return static_cast<QAbstractItemView*>(widget());
 }
 
-const void* QtTableView::role(ViewKind kind) const
+const void* QtTableView::roleOfKind(ViewKind kind) const
 {
   if (kind == ViewKind::TableView) return static_cast<const platform::TableView*>(this);
   if (kind == ViewKind::ScrollView) return static_cast<const platform::ScrollView*>(this);
-  return QtControlView::role(kind);
+  return QtControlView::roleOfKind(kind);
 }
 
 // Rows and columns

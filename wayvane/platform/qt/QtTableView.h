@@ -19,7 +19,7 @@ public:
 
 protected:
   [[nodiscard]] QPoint originInWidget(const QWidget& widget) const override;
-  [[nodiscard]] const void* role(platform::ViewKind kind) const override;
+  [[nodiscard]] const void* roleOfKind(platform::ViewKind kind) const override;
 
   [[nodiscard]] int numberOfRows() const override;
   [[nodiscard]] int numberOfColumns() const override;

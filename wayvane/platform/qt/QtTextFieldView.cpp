@@ -25,10 +25,10 @@ std::string QtLabelView::stringValue() const
   return label ? toUtf8(shownText(*label)) : std::string();
 }
 
-const void* QtLabelView::role(ViewKind kind) const
+const void* QtLabelView::roleOfKind(ViewKind kind) const
 {
   const void* field = roleOf(this, kind);
-  return field ? field : QtControlView::role(kind);
+  return field ? field : QtControlView::roleOfKind(kind);
 }
 
 bool QtLineEditView::isEditable() const
@@ -54,10 +54,10 @@ QString QtLineEditView::derivedLabel(const QWidget& widget) const
   return buddyText(widget);
 }
 
-const void* QtLineEditView::role(ViewKind kind) const
+const void* QtLineEditView::roleOfKind(ViewKind kind) const
 {
   const void* field = roleOf(this, kind);
-  return field ? field : QtControlView::role(kind);
+  return field ? field : QtControlView::roleOfKind(kind);
 }
 
 bool QtSpinBoxView::isEditable() const
@@ -84,10 +84,10 @@ QString QtSpinBoxView::derivedLabel(const QWidget& widget) const
   return buddyText(widget);
 }
 
-const void* QtSpinBoxView::role(ViewKind kind) const
+const void* QtSpinBoxView::roleOfKind(ViewKind kind) const
 {
   const void* field = roleOf(this, kind);
-  return field ? field : QtControlView::role(kind);
+  return field ? field : QtControlView::roleOfKind(kind);
 }
 
 } // namespace wayvane::qt

@@ -16,7 +16,7 @@ protected:
 
   [[nodiscard]] std::optional<std::string> placeholderString() const override { return std::nullopt; }
 
-  [[nodiscard]] const void* role(platform::ViewKind kind) const override;
+  [[nodiscard]] const void* roleOfKind(platform::ViewKind kind) const override;
 };
 
 /// A QLineEdit. What stands in one for passwords is not told.
@@ -29,7 +29,7 @@ protected:
   [[nodiscard]] std::string stringValue() const override;
   [[nodiscard]] std::optional<std::string> placeholderString() const override;
   [[nodiscard]] QString derivedLabel(const QWidget& widget) const override;
-  [[nodiscard]] const void* role(platform::ViewKind kind) const override;
+  [[nodiscard]] const void* roleOfKind(platform::ViewKind kind) const override;
 };
 
 /// A QAbstractSpinBox: a field whose editor and arrows are parts of it.
@@ -42,7 +42,7 @@ protected:
   [[nodiscard]] std::string stringValue() const override;
   [[nodiscard]] std::optional<std::string> placeholderString() const override;
   [[nodiscard]] QString derivedLabel(const QWidget& widget) const override;
-  [[nodiscard]] const void* role(platform::ViewKind kind) const override;
+  [[nodiscard]] const void* roleOfKind(platform::ViewKind kind) const override;
 };
 
 } // namespace wayvane::qt

@@ -30,10 +30,10 @@ QString QtTextView::derivedLabel(const QWidget& widget) const
   return buddyText(widget);
 }
 
-const void* QtTextView::role(ViewKind kind) const
+const void* QtTextView::roleOfKind(ViewKind kind) const
 {
   if (kind == ViewKind::TextView) return static_cast<const platform::TextView*>(this);
-  return QtView::role(kind);
+  return QtView::roleOfKind(kind);
 }
 
 } // namespace wayvane::qt

@@ -18,7 +18,7 @@ protected:
   [[nodiscard]] platform::ViewHandle delegate() const override { return nullptr; }
 
   [[nodiscard]] QString derivedLabel(const QWidget& widget) const override;
-  [[nodiscard]] const void* role(platform::ViewKind kind) const override;
+  [[nodiscard]] const void* roleOfKind(platform::ViewKind kind) const override;
 };
 
 } // namespace wayvane::qt

@@ -57,7 +57,7 @@ bool visit(QWidget& widget, const ClassInfo& info, platform::FunctionRef<bool(co
 
 bool isMarkedOwn(const QWidget& widget)
 {
-  return hostValue(static_cast<const QObject&>(widget), "wv_own").toBool();
+  return mayCarryHostProperties(widget) && widget.property("wv_own").toBool();
 }
 
 } // namespace
@@ -86,6 +86,7 @@ bool visitWidget(QWidget& widget, platform::FunctionRef<bool(const platform::Vie
 platform::ViewHandle viewForWidget(QWidget* widget)
 {
   if (!widget) return nullptr;
+  watchHostProperties();
   const ClassInfo& info = classInfo(widget->metaObject());
   return withViewClass(info.family, [&](auto type) -> platform::ViewHandle {
     return std::make_shared<typename decltype(type)::type>(QtView::Following{}, *widget, info);

@@ -15,19 +15,8 @@ using platform::HostProperty;
 using platform::SearchText;
 using platform::ViewKind;
 
-QtView::QtView(QWidget& widget, const ClassInfo& info)
-  : borrowed_(&widget)
-  , info_(&info)
-{}
-
-QtView::QtView(Following, QWidget& widget, const ClassInfo& info)
-  : followed_(&widget)
-  , info_(&info)
-{}
-
-QWidget* QtView::widget() const
+QWidget* QtView::livingWidget() const
 {
-  if (borrowed_) return borrowed_;
   QWidget* widget = followed_.data();
   // While it is being destroyed it is no longer of its class, and may not be asked what that class knows.
   return widget && widget->metaObject() == info_->metaObject ? widget : nullptr;
@@ -92,8 +81,13 @@ bool QtView::isOfHostClass() const
 
 const void* QtView::role(ViewKind kind) const
 {
-  const bool isCell = kind == ViewKind::TableCellView && isKind(kind);
-  return isCell ? static_cast<const platform::TableCellView*>(this) : nullptr;
+  if (kind != ViewKind::TableCellView) return info_->is(kind) ? roleOfKind(kind) : nullptr;
+  return isKind(kind) ? static_cast<const platform::TableCellView*>(this) : nullptr;
+}
+
+const void* QtView::roleOfKind(ViewKind /*kind*/) const
+{
+  return nullptr;
 }
 
 bool QtView::isIndexWidget(const QWidget& widget) const
@@ -179,14 +173,14 @@ constexpr std::array kHostPropertyNames{"wv_guidePadding", "wv_guideCornerRadius
 std::optional<std::string> QtView::hostString(HostProperty property) const
 {
   const QWidget* w = widget();
-  if (!w) return std::nullopt;
+  if (!w || !mayHaveHostProperties(*w, *info_)) return std::nullopt;
   return toOptional(hostValue(*w, *info_, kHostPropertyNames[static_cast<std::size_t>(property)]).toString());
 }
 
 std::optional<double> QtView::hostNumber(HostProperty property) const
 {
   const QWidget* w = widget();
-  if (!w) return std::nullopt;
+  if (!w || !mayHaveHostProperties(*w, *info_)) return std::nullopt;
   bool isNumber = false;
   const QVariant value = hostValue(*w, *info_, kHostPropertyNames[static_cast<std::size_t>(property)]);
   const double number = value.toDouble(&isNumber);

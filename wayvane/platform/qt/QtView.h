@@ -14,15 +14,21 @@ namespace wayvane::qt {
 class QtView : public platform::View, protected platform::TableCellView {
 public:
   /// Borrows a living widget for the time of a visit.
-  explicit QtView(QWidget& widget, const ClassInfo& info);
+  QtView(QWidget& widget, const ClassInfo& info)
+    : borrowed_(&widget)
+    , info_(&info)
+  {}
 
   /// Follows the widget; may outlive it.
   struct Following {};
 
-  QtView(Following, QWidget& widget, const ClassInfo& info);
+  QtView(Following /*follows*/, QWidget& widget, const ClassInfo& info)
+    : followed_(&widget)
+    , info_(&info)
+  {}
 
   /// Null when the widget is gone, or is just being destroyed.
-  [[nodiscard]] QWidget* widget() const;
+  [[nodiscard]] QWidget* widget() const { return borrowed_ ? borrowed_ : livingWidget(); }
 
   [[nodiscard]] platform::ViewHandle handle() const override;
   [[nodiscard]] bool isAlive() const override;
@@ -60,7 +66,9 @@ public:
   [[nodiscard]] std::vector<platform::TrackingArea> trackingAreas() const override;
 
 protected:
-  [[nodiscard]] const void* role(platform::ViewKind kind) const override;
+  /// Null at once for what the class is not; the others ask `roleOfKind`.
+  [[nodiscard]] const void* role(platform::ViewKind kind) const final;
+  [[nodiscard]] virtual const void* roleOfKind(platform::ViewKind kind) const;
   [[nodiscard]] platform::ModelObjectHandle objectValue() const override;
 
   /// The label that assistive technology reads when the host gave none.
@@ -73,6 +81,7 @@ protected:
   [[nodiscard]] const ClassInfo& info() const { return *info_; }
 
 private:
+  [[nodiscard]] QWidget* livingWidget() const;
   [[nodiscard]] bool isIndexWidget(const QWidget& widget) const;
 
   QWidget* borrowed_ = nullptr;
