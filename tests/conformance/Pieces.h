@@ -2,6 +2,7 @@
 
 #include <wayvane/platform/ViewRoles.h>
 
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -72,11 +73,13 @@ struct ToolbarPiece {
 /// Titles from the menu bar downwards, for instance {"File", "Export", "As Text…"}.
 using MenuPath = std::vector<std::string>;
 
-/// A picture's colours of one pixel, 0 to 1, and nothing of its transparency.
+/// The colour of one pixel, 0 to 1.
 struct Pixel {
   double red = 0, green = 0, blue = 0;
 
   [[nodiscard]] double brightness() const { return (red + green + blue) / 3; }
 };
+
+using Picture = std::function<Pixel(platform::Point)>;
 
 } // namespace wayvane::conformance

@@ -72,8 +72,8 @@ public:
   [[nodiscard]] virtual std::vector<std::string> hoverReceived(const platform::ViewHandle& view) = 0;
   /// How often a plain element was drawn.
   [[nodiscard]] virtual int timesDrawn(const platform::ViewHandle& view) = 0;
-  /// What the window shows at a point in window coordinates, our overlay included.
-  [[nodiscard]] virtual Pixel pixel(const platform::WindowHandle& window, platform::Point point) = 0;
+  /// What the window shows now, our overlay included, by points in window coordinates.
+  [[nodiscard]] virtual Picture picture(const platform::WindowHandle& window) = 0;
 
   // The user, with the mouse in screen coordinates
 

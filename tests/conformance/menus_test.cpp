@@ -327,6 +327,32 @@ TEST_F(Menus, EveryObserverHearsACommandAlsoWhenOneEnds)
   EXPECT_EQ(first, 1);
 }
 
+TEST_F(Menus, APressOnAnEntryIsSeenOnceAsOneInAMenu)
+{
+  std::vector<platform::MouseEvent> seen;
+  const auto monitor =
+      platform().events.addLocalMonitor(platform::MouseEvent::Type::LeftMouseDown, [&](const auto& event) {
+        seen.push_back(event);
+        return platform::EventVerdict::PassOn;
+      });
+  stage().chooseMenuEntry({"File", "New Tour"});
+  ASSERT_EQ(seen.size(), 1U);
+  EXPECT_TRUE(seen[0].inMenu);
+}
+
+TEST_F(Menus, ASwallowedPressOnAnEntryChoosesNothing)
+{
+  int chosen = 0, commands = 0;
+  const auto item = platform().application.helpMenu()->insertItem(titled("Guides", [&] { ++chosen; }), 0);
+  const auto observer = platform().events.observeMenuCommands([&](const MenuItemHandle&) { ++commands; });
+  const auto monitor = platform().events.addLocalMonitor(
+      platform::MouseEvent::Type::LeftMouseDown, [](const auto&) { return platform::EventVerdict::Swallow; });
+  stage().chooseMenuEntry({"Help", "Guides"});
+  stage().pass(0.02);
+  EXPECT_EQ(chosen, 0);
+  EXPECT_EQ(commands, 0);
+}
+
 TEST_F(Menus, OpeningAMenuIsNoCommand)
 {
   int commands = 0;

@@ -47,7 +47,7 @@ protected:
     return dim;
   }
 
-  [[nodiscard]] double brightnessAt(Point point) { return stage().pixel(window(), point).brightness(); }
+  [[nodiscard]] double brightnessAt(Point point) { return stage().picture(window())(point).brightness(); }
 
 private:
   std::unique_ptr<OverlayPanel> overlay_;
@@ -186,24 +186,30 @@ TEST_F(Overlay, ItMayEndAfterItsWindow)
 TEST_F(Overlay, ItsHoleShowsTheProgramUndimmed)
 {
   const Rect hole{200, 100, 100, 80};
-  const double inside = brightnessAt(hole.center()), outside = brightnessAt({50, 50});
-  ASSERT_GT(inside, 0.3) << "something bright to dim";
+  const Picture before = stage().picture(window());
+  ASSERT_GT(before(hole.center()).brightness(), 0.3) << "something bright to dim";
   dimAround(hole);
-  EXPECT_NEAR(brightnessAt(hole.center()), inside, 0.01);
-  EXPECT_NEAR(brightnessAt({50, 50}), outside / 2, 0.03);
+  const Picture after = stage().picture(window());
+  EXPECT_NEAR(after(hole.center()).brightness(), before(hole.center()).brightness(), 0.01);
+  EXPECT_NEAR(after({50, 50}).brightness(), before({50, 50}).brightness() / 2, 0.03);
 }
 
-TEST_F(Overlay, ItsCoordinatesAreThoseOfTheWindow)
+TEST_F(Overlay, ItLiesOverTheBarsOfTheWindowToo)
 {
-  const auto mark = Layer::make();
-  mark->setFrame({20, 30, 40, 10});
-  mark->setBackgroundColor(Color::rgba(1, 0, 0));
-  overlay().contentView().layer()->addSublayer(mark);
+  stage().addToolbarItem(window(), {.identifier = "newTour", .label = "New", .toolTip = {}});
+  const Point inBars{kWindowFrame.width - 20, kWindowFrame.height - 8};
+  const double before = brightnessAt(inBars);
+  dimAround({200, 100, 100, 80});
+  EXPECT_NEAR(brightnessAt(inBars), before / 2, 0.03);
+}
+
+TEST_F(Overlay, ItLiesOverElementsAddedLater)
+{
+  dimAround({200, 100, 100, 80});
+  stage().addPlain(window(), {.frame = {200, 100, 300, 80}});
   stage().pass(0.05);
-  const Pixel on = stage().pixel(window(), {40, 35}), above = stage().pixel(window(), {40, 45});
-  EXPECT_NEAR(on.red, 1, 0.02);
-  EXPECT_NEAR(on.green, 0, 0.02);
-  EXPECT_GT(above.green, 0.3);
+  const Picture picture = stage().picture(window());
+  EXPECT_NEAR(picture({450, 140}).brightness(), picture({250, 140}).brightness() / 2, 0.03);
 }
 
 TEST_F(Overlay, AChangedLayerIsShown)
@@ -223,11 +229,16 @@ TEST_F(Overlay, AnAnimationIsShownWhileTimePasses)
   fade.keyPath = platform::KeyPath::Opacity;
   fade.from = 1.0;
   fade.to = 0.0;
-  fade.duration = 0.1;
+  fade.duration = 0.4;
   fade.fillForwards = true;
   fade.removedOnCompletion = false;
   dim->addAnimation(fade, "fade");
-  EXPECT_TRUE(stage().waitUntil([&] { return brightnessAt({50, 50}) > 2 * dimmed - 0.05; }));
+  stage().pass(0.15);
+  const double between = brightnessAt({50, 50});
+  stage().pass(0.35);
+  EXPECT_GT(between, dimmed + 0.02);
+  EXPECT_GT(brightnessAt({50, 50}), between + 0.02);
+  EXPECT_NEAR(brightnessAt({50, 50}), 2 * dimmed, 0.03);
 }
 
 TEST_F(Overlay, NothingIsRedrawnWhileNothingMoves)

@@ -78,6 +78,13 @@ TEST_F(Surroundings, ATextOfTheHostsIsInTheLanguageOfTheProgram)
   EXPECT_THAT(localization().hostString("Tours", "plan"), Optional(std::string("Plan a tour")));
 }
 
+TEST_F(Surroundings, ATextOfTheFrameworksIsInItsOwnTable)
+{
+  stage().addHostTable("Wayvane", "en", {{"WV.bubble.next", "Onwards"}});
+  EXPECT_THAT(localization().frameworkString("WV.bubble.next"), Optional(std::string("Onwards")));
+  EXPECT_FALSE(localization().frameworkString("WV.bubble.previous"));
+}
+
 TEST_F(Surroundings, ATableOfTheHostsIsReadByLanguage)
 {
   stage().addHostTable("Tours", "de", {{"plan", "Planen & Gehen"}, {"quote", "„Ja“ \"nein\""}});

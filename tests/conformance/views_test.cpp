@@ -172,6 +172,31 @@ TEST_F(Views, AnElementHearsThatThePointerCameAndWent)
   EXPECT_THAT(stage().hoverReceived(view), ElementsAre("entered", "exited"));
 }
 
+TEST_F(Views, ATrackingAreaTellsItsOwner)
+{
+  using platform::HoverEvent;
+  const auto view = stage().addPlain(window(), {.frame = {40, 40, 80, 80}});
+  const auto areas = view->trackingAreas();
+  ASSERT_EQ(areas.size(), 1U);
+  EXPECT_TRUE(areas[0].reportsEnteringAndLeaving);
+  EXPECT_TRUE(areas[0].ownerIsView);
+  EXPECT_EQ(areas[0].rect, view->bounds());
+  ASSERT_TRUE(areas[0].mouseEntered && areas[0].mouseExited);
+  areas[0].mouseEntered({HoverEvent::Type::Entered, {60, 60}, 0});
+  areas[0].mouseExited({HoverEvent::Type::Exited, {60, 60}, 0});
+  EXPECT_THAT(stage().hoverReceived(view), ElementsAre("entered", "exited"));
+}
+
+TEST_F(Views, ATrackingAreaMayOutliveItsView)
+{
+  const auto view = stage().addPlain(window(), {.frame = {40, 40, 80, 80}});
+  const auto areas = view->trackingAreas();
+  stage().destroy(view);
+  for (const auto& area : areas)
+    area.mouseEntered({});
+  EXPECT_FALSE(view->isAlive());
+}
+
 TEST_F(Views, TextComparisonsAgreeWithTheTextsAllOverAWindow)
 {
   stage().addButton(window(),

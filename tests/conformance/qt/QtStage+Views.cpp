@@ -228,14 +228,15 @@ int QtStage::timesDrawn(const ViewHandle& view)
   return qobject_cast<const HostCanvas*>(widgetOf(view))->paints();
 }
 
-Pixel QtStage::pixel(const WindowHandle& window, platform::Point point)
+Picture QtStage::picture(const WindowHandle& window)
 {
-  QWidget* widget = widgetOf(window);
-  const QImage picture = widget->grab().toImage();
-  const QColor color =
-      picture.pixelColor(static_cast<int>(point.x * picture.devicePixelRatio()),
-                         static_cast<int>((widget->height() - point.y) * picture.devicePixelRatio()));
-  return {color.redF(), color.greenF(), color.blueF()};
+  const QImage drawn = widgetOf(window)->grab().toImage();
+  return [drawn](platform::Point point) {
+    const double scale = drawn.devicePixelRatio();
+    const QColor color = drawn.pixelColor(static_cast<int>(point.x * scale),
+                                          drawn.height() - 1 - static_cast<int>(point.y * scale));
+    return Pixel{color.redF(), color.greenF(), color.blueF()};
+  };
 }
 
 } // namespace wayvane::conformance

@@ -59,7 +59,7 @@ public:
   [[nodiscard]] int mouseEventsReceived(const platform::ViewHandle& view) override;
   [[nodiscard]] std::vector<std::string> hoverReceived(const platform::ViewHandle& view) override;
   [[nodiscard]] int timesDrawn(const platform::ViewHandle& view) override;
-  [[nodiscard]] Pixel pixel(const platform::WindowHandle& window, platform::Point point) override;
+  [[nodiscard]] Picture picture(const platform::WindowHandle& window) override;
 
   void press(platform::Point screenPoint) override;
   void doublePress(platform::Point screenPoint) override;

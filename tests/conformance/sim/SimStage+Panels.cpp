@@ -41,6 +41,7 @@ void SimStage::chooseMenuEntry(const MenuPath& path)
 {
   sim::Menu& menu = menuAt(desktop_.mainMenu(), path, path.size() - 1);
   desktop_.openMenu(menu);
+  if (desktop_.pressInMenu({1000, 600}) == platform::EventVerdict::Swallow) return;
   if (sim::MenuItem* item = menu.find(path.back())) desktop_.chooseItem(*item);
 }
 

@@ -96,7 +96,9 @@ ViewHandle SimStage::finish(sim::View& view, const Look& look)
 ViewHandle SimStage::addPlain(const WindowHandle& window, const Look& look)
 {
   const Place place = placeFor(window, look);
-  return finish(place.parent.addView("HostCanvas", {.frame = place.frame}), look);
+  auto& plain = place.parent.addView("HostCanvas", {.frame = place.frame});
+  tracking_[&plain] = &plain.addTrackingArea({.rect = plain.bounds(), .ownerIsView = true});
+  return finish(plain, look);
 }
 
 ViewHandle SimStage::addButton(const WindowHandle& window, const Look& look, const ButtonPiece& piece)
@@ -214,25 +216,35 @@ int SimStage::mouseEventsReceived(const ViewHandle& view)
   return simulated(view).clickCount();
 }
 
-std::vector<std::string> SimStage::hoverReceived(const ViewHandle& view)
+std::vector<std::string> SimStage::namesOf(const std::vector<platform::HoverEvent>& events)
 {
   std::vector<std::string> names;
-  for (const auto& event : simulated(view).hoverEvents())
+  for (const auto& event : events)
     names.emplace_back(event.type == platform::HoverEvent::Type::Entered ? "entered" : "exited");
   return names;
 }
 
-Pixel SimStage::pixel(const WindowHandle& window, Point point)
+std::vector<std::string> SimStage::hoverReceived(const ViewHandle& view)
+{
+  // The desktop writes down separately what came by the way of a tracking area.
+  std::vector<std::string> names = namesOf(simulated(view).hoverEvents());
+  const auto tracked = tracking_.find(view.get());
+  if (names.empty() && tracked != tracking_.end()) return namesOf(tracked->second->events);
+  return names;
+}
+
+Picture SimStage::picture(const WindowHandle& window)
 {
   constexpr platform::Rgba kWhite{1, 1, 1, 1};
-  platform::Rgba seen = kWhite;
-  for (sim::OverlayPanel* overlay : desktop_.overlays()) {
-    if (!overlay->isVisible() || !isSameWindow(overlay->parentWindow(), window)) continue;
-    const auto picture = sim::renderLayer(*overlay->contentView().layer(), desktop_.now(), 1,
-                                          platform::Appearance::Light, kWhite);
-    seen = sim::pixelAt(picture, point);
-  }
-  return {seen.red, seen.green, seen.blue};
+  platform::Bitmap drawn;
+  for (sim::OverlayPanel* overlay : desktop_.overlays())
+    if (overlay->isVisible() && isSameWindow(overlay->parentWindow(), window))
+      drawn = sim::renderLayer(*overlay->contentView().layer(), desktop_.now(), 1,
+                               platform::Appearance::Light, kWhite);
+  return [drawn = std::move(drawn), kWhite](Point point) {
+    const platform::Rgba seen = drawn.width > 0 ? sim::pixelAt(drawn, point) : kWhite;
+    return Pixel{seen.red, seen.green, seen.blue};
+  };
 }
 
 // The user
@@ -283,7 +295,10 @@ std::string SimStage::emptyFolder()
 void SimStage::addHostTable(const std::string& table, const std::string& language,
                             const platform::StringTable& texts)
 {
-  desktop_.setHostTable(table, language, texts);
+  if (table == "Wayvane")
+    desktop_.setFrameworkTable(language, texts);
+  else
+    desktop_.setHostTable(table, language, texts);
 }
 
 std::unique_ptr<Stage> makeStage()

@@ -51,7 +51,7 @@ public:
   /// The simulation draws nothing of the program.
   [[nodiscard]] int timesDrawn(const platform::ViewHandle&) override { return 0; }
 
-  [[nodiscard]] Pixel pixel(const platform::WindowHandle& window, platform::Point point) override;
+  [[nodiscard]] Picture picture(const platform::WindowHandle& window) override;
 
   void press(platform::Point screenPoint) override;
   void doublePress(platform::Point screenPoint) override;
@@ -93,9 +93,11 @@ private:
 
   [[nodiscard]] static Place placeFor(const platform::WindowHandle& window, const Look& look);
   static platform::ViewHandle finish(sim::View& view, const Look& look);
+  [[nodiscard]] static std::vector<std::string> namesOf(const std::vector<platform::HoverEvent>& events);
   bool pressPanelButton(platform::Point screenPoint);
 
   sim::Desktop desktop_;
+  std::map<const platform::View*, sim::TrackingRecord*> tracking_;
 };
 
 } // namespace wayvane::conformance
