@@ -78,12 +78,17 @@ void clickTarget()
   if (QWidget* const popup = QApplication::activePopupWidget()) popup->close();
 }
 
-} // namespace
-
-bool followGuide(User& user, Pictures& pictures, const QString& name)
+std::shared_ptr<Narrator> startNarrating()
 {
-  const auto narrator = std::make_shared<Narrator>();
+  auto narrator = std::make_shared<Narrator>();
   player().setDelegate(narrator);
+  return narrator;
+}
+
+/// Follows the guide that plays by clicking each target, with a picture of every step once its animation has
+/// settled. True when the guide was completed.
+bool followGuide(User& user, Pictures& pictures, const QString& name, const Narrator& narrator)
+{
   while (player().isPlaying()) {
     if (!user.waitUntil([] { return !player().isPlaying() || player().currentBubble(); }, kStuckMilliseconds))
       return complain("stuck: no step was shown");
@@ -97,8 +102,10 @@ bool followGuide(User& user, Pictures& pictures, const QString& name)
     if (!user.waitUntil([&bubble] { return player().currentBubble() != bubble; }))
       return complain("stuck: the click on the target did nothing");
   }
-  return narrator->completed;
+  return narrator.completed;
 }
+
+} // namespace
 
 bool filmGuide(User& user, Pictures& pictures, const std::shared_ptr<wayvane::WVGuide>& guide,
                const QString& name)
@@ -106,8 +113,9 @@ bool filmGuide(User& user, Pictures& pictures, const std::shared_ptr<wayvane::WV
   say(QString("Guide \"%1\", %2 steps")
           .arg(QString::fromStdString(guide->localizedName()))
           .arg(guide->steps.size()));
+  const auto narrator = startNarrating();
   player().playGuide(guide);
-  return followGuide(user, pictures, name);
+  return followGuide(user, pictures, name, *narrator);
 }
 
 namespace {
@@ -119,6 +127,7 @@ bool annotate(User& user, const QString& title, const QString& message)
   QWidget& popover = *User::field("titleField")->window();
   // The field gets the keyboard on a later turn of the main loop.
   user.wait(100);
+  user.hover(*User::field("titleField"));
   user.type(popover, title);
   user.press(popover, Qt::Key_Tab);
   user.type(popover, message);
@@ -191,8 +200,9 @@ bool filmRecording(User& user, MainWindow& window, Pictures& pictures, const QSt
   user.wait(100);
   pictures.add(user.picture(), "record-6-menu");
   help->close();
+  const auto narrator = startNarrating();
   if (!user.choose("Help", guideName)) return complain("the guide is not in the Help menu");
-  return followGuide(user, pictures, "recorded");
+  return followGuide(user, pictures, "recorded", *narrator);
 }
 
 } // namespace trailbook

@@ -11,11 +11,8 @@ namespace trailbook {
 
 class MainWindow;
 
-/// Follows the guide that plays by clicking each target, with a picture of every step once its animation has
-/// settled. True when the guide was completed.
-bool followGuide(User& user, Pictures& pictures, const QString& name);
-
-/// Plays the guide from its first step and follows it.
+/// Plays the guide and follows it by clicking each target, with a picture of every step once its animation
+/// has settled. True when the guide was completed.
 bool filmGuide(User& user, Pictures& pictures, const std::shared_ptr<wayvane::WVGuide>& guide,
                const QString& name);
 

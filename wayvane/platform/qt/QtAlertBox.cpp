@@ -35,8 +35,10 @@ QtAlertBox::QtAlertBox(const platform::AlertSpec& spec)
   adopt(*this);
   setAttribute(Qt::WA_QuitOnClose, false);
   setWindowTitle(QGuiApplication::applicationDisplayName());
-  setIcon(spec.style == platform::AlertSpec::Style::Informational ? QMessageBox::Information
-                                                                  : QMessageBox::Warning);
+  // What asks for a text warns of nothing.
+  setIcon(spec.field                                                ? QMessageBox::Question
+          : spec.style == platform::AlertSpec::Style::Informational ? QMessageBox::Information
+                                                                    : QMessageBox::Warning);
   setTextFormat(Qt::PlainText);
   setText(toQString(spec.messageText));
   setInformativeText(toQString(spec.informativeText));
