@@ -156,6 +156,15 @@ TEST_F(RecorderClick, AClickIntoAUtilityPanelIsIgnored)
   EXPECT_EQ(brush.clickCount(), 1);
 }
 
+TEST_F(RecorderClick, TheBadgeIsIgnoredAlsoWhereItIsNoUtilityPanel)
+{
+  start();
+  std::static_pointer_cast<sim::Window>(recorder->badge()->window())->setUtilityPanel(false);
+  desktop.moveMouse(save.screenCenter());
+  desktop.clickPanelButton(badgePanel(), "Undo");
+  EXPECT_FALSE(recorder->capturingAnnotation());
+}
+
 TEST_F(RecorderClick, APressInAMenuIsNoClickOnWhatLiesBelow)
 {
   start();
