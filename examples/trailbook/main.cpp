@@ -2,6 +2,8 @@
 #include "MainWindow.h"
 
 #include <wayvane/manager/WVGuideManager.h>
+#include <wayvane/overlay/WVBubbleView.h>
+#include <wayvane/platform/qt/Conversions.h>
 #include <wayvane/playback/WVPlayer.h>
 #include <wayvane/qt/Wayvane.h>
 
@@ -14,6 +16,8 @@
 #include <QTimer>
 #include <QTranslator>
 
+#include <algorithm>
+
 namespace {
 
 using wayvane::WVGuide;
@@ -25,6 +29,7 @@ struct Options {
   QString language;
   QStringList guides;
   QDir samples;
+  bool announce = false;
   bool dark = false;
 };
 
@@ -41,11 +46,13 @@ Options parse(const QApplication& app)
   const QCommandLineOption language("language", "The language of program and guides, such as de.", "CODE");
   const QCommandLineOption samples("samples", "The folder with the sample guides.", "DIR",
                                    QApplication::applicationDirPath() + "/guides");
+  const QCommandLineOption announce("announce",
+                                    "Play the --guide and print where each step's target is on the screen.");
   const QCommandLineOption dark("dark", "Dark colours.");
-  parser.addOptions({film, guide, record, language, samples, dark});
+  parser.addOptions({film, guide, record, language, samples, announce, dark});
   parser.process(app);
-  return {parser.value(film),   parser.value(record),        parser.value(language),
-          parser.values(guide), QDir(parser.value(samples)), parser.isSet(dark)};
+  return {parser.value(film),          parser.value(record),   parser.value(language), parser.values(guide),
+          QDir(parser.value(samples)), parser.isSet(announce), parser.isSet(dark)};
 }
 
 QPalette darkPalette()
@@ -105,6 +112,52 @@ int makeFilm(const Options& options, trailbook::MainWindow& window)
   return good && pictures.count() > 0 ? 0 : 1;
 }
 
+/// Prints "step N X Y" when the user is to click there, and "completed" or "ended" at the end, for whoever
+/// moves the pointer from outside.
+class Announcer : public QObject, public wayvane::WVPlayerDelegate {
+public:
+  explicit Announcer(QObject* parent)
+    : QObject(parent)
+  {
+    startTimer(50);
+  }
+
+  void playerDidCompleteGuide(const std::string& /*identifier*/) override { finish("completed"); }
+
+  void playerDidSkipGuide(const std::string& /*identifier*/, std::uint64_t /*atStep*/) override
+  {
+    finish("ended");
+  }
+
+private:
+  void timerEvent(QTimerEvent* /*event*/) override
+  {
+    const auto& player = wayvane::WVPlayer::sharedPlayer();
+    const auto bubble = player.isPlaying() ? player.currentBubble() : nullptr;
+    if (!bubble || bubble == announced_) return;
+    announced_ = bubble;
+    const QPoint at = wayvane::qt::globalFromScreenPoint(player.currentTargetScreenRect().center()).toPoint();
+    QTextStream(stdout) << "step " << player.currentStepIndex() + 1 << ' ' << at.x() << ' ' << at.y() << '\n';
+  }
+
+  static void finish(const char* how)
+  {
+    QTextStream(stdout) << how << '\n';
+    QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+  }
+
+  std::shared_ptr<wayvane::WVBubbleView> announced_;
+};
+
+void announceTour(const Options& options, trailbook::MainWindow& window)
+{
+  static const auto announcer = std::shared_ptr<Announcer>(new Announcer(&window), [](Announcer*) {});
+  auto& player = wayvane::WVPlayer::sharedPlayer();
+  player.setDelegate(announcer);
+  for (const auto& guide : WVGuideManager::sharedManager().savedGuides())
+    if (options.guides.contains(QString::fromStdString(guide->name.value_or("")))) player.playGuide(guide);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -128,6 +181,7 @@ int main(int argc, char** argv)
   WVGuideManager::sharedManager().setStringsFileNames({"trailbook"});
   putIntoLibrary(options.samples);
 
+  if (options.announce) QTimer::singleShot(300, &window, [&] { announceTour(options, window); });
   if (!options.film.isEmpty())
     QTimer::singleShot(300, &window, [&] { QCoreApplication::exit(makeFilm(options, window)); });
   return QApplication::exec();

@@ -76,8 +76,7 @@ TEST_F(Roles, EveryClassHasTheKindsOfItsRole)
   EXPECT_THAT(kindsOf(add<QSlider>(kPlace)), ElementsAre(K::Control));
   auto* table = add<QTableWidget>(kPlace);
   EXPECT_THAT(kindsOf(table), ElementsAre(K::Control, K::TableView, K::ScrollView));
-  EXPECT_THAT(kindsOf(table->horizontalHeader()), ElementsAre(K::Control))
-      << "a header is no table";
+  EXPECT_THAT(kindsOf(table->horizontalHeader()), ElementsAre(K::Control)) << "a header is no table";
 }
 
 // Buttons
