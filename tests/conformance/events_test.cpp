@@ -284,7 +284,7 @@ TEST_F(Events, APressTellsTheWindowItHappenedIn)
   EXPECT_EQ(seen[1].locationInWindow, (Point{250, 20}));
 }
 
-TEST_F(Events, ARegistrationMayOutliveThePlatform)
+TEST(EventRegistrations, MayOutliveThePlatform)
 {
   Registration monitor, resize, commands;
   {

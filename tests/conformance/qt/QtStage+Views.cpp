@@ -235,7 +235,8 @@ Picture QtStage::picture(const WindowHandle& window)
     const double scale = drawn.devicePixelRatio();
     const QColor color = drawn.pixelColor(static_cast<int>(point.x * scale),
                                           drawn.height() - 1 - static_cast<int>(point.y * scale));
-    return Pixel{color.redF(), color.greenF(), color.blueF()};
+    constexpr double kFull = 255;
+    return Pixel{color.red() / kFull, color.green() / kFull, color.blue() / kFull};
   };
 }
 

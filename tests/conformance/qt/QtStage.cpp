@@ -35,6 +35,8 @@ QtStage::~QtStage()
     delete window.data();
   qApp->setProperty("wv_helpMenu", {});
   pass(0);
+  for (const QWidget* left : QApplication::topLevelWidgets())
+    EXPECT_FALSE(left->isVisible()) << "left behind: " << left->metaObject()->className();
   for (const std::string& complaint : recordedMessages().complaints)
     ADD_FAILURE() << "the toolkit complained: " << complaint;
 }
