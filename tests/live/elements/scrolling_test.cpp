@@ -1,5 +1,6 @@
 #include <tests/live/elements/Elements.h>
 
+#include <QHeaderView>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -274,6 +275,16 @@ TEST_P(ScrollingTables, APlaceInTheContentsComesIntoSight)
   EXPECT_EQ(completions(), 1);
   EXPECT_TRUE(contents().documentVisibleRect().intersects(cell))
       << platform::stringFromRect(contents().documentVisibleRect());
+}
+
+TEST_P(ScrollingTables, HeadersAndScrollBarsAreNotInTheContents)
+{
+  for (QWidget* beside : {static_cast<QWidget*>(widget().horizontalHeader()),
+                          static_cast<QWidget*>(widget().verticalScrollBar())}) {
+    const auto view = viewForWidget(beside);
+    EXPECT_EQ(view->convertRectToAncestor(view->bounds(), *handle()), Rect{});
+    EXPECT_FALSE(view->convertRectToAncestor(view->bounds(), *viewForWidget(&window())).isEmpty());
+  }
 }
 
 TEST_P(ScrollingTables, ARowThatIsNotThereCompletes)

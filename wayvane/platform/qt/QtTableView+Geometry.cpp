@@ -68,6 +68,11 @@ QPoint QtTableView::originInWidget(const QWidget& widget) const
   return view.viewport()->pos() - scrollOffset(view);
 }
 
+const QWidget* QtTableView::contents(const QWidget& widget) const
+{
+  return static_cast<const QAbstractItemView&>(widget).viewport();
+}
+
 Rect QtTableView::bounds() const
 {
   const QAbstractItemView* view = itemView();

@@ -19,6 +19,7 @@ public:
 
 protected:
   [[nodiscard]] QPoint originInWidget(const QWidget& widget) const override;
+  [[nodiscard]] const QWidget* contents(const QWidget& widget) const override;
   [[nodiscard]] const void* roleOfKind(platform::ViewKind kind) const override;
 
   [[nodiscard]] int numberOfRows() const override;

@@ -49,7 +49,8 @@ Rect QtView::convertRectToAncestor(const Rect& rect, const platform::View& ances
   const QWidget* above = other ? other->widget() : nullptr;
   if (!w || !above) return {};
   if (w == above) return rect;
-  if (!above->isAncestorOf(w)) return {};
+  const QWidget* contents = other->contents(*above);
+  if (w != contents && !contents->isAncestorOf(w)) return {};
   const QPointF corner =
       w->mapTo(above, QPointF(rect.x, rect.y) + originInWidget(*w)) - other->originInWidget(*above);
   return {corner.x(), corner.y(), rect.width, rect.height};

@@ -78,6 +78,10 @@ protected:
   /// Where the origin of the view's coordinates lies in the widget: not at (0, 0) for what scrolls in itself.
   [[nodiscard]] virtual QPoint originInWidget(const QWidget& widget) const;
 
+  /// The widget that holds what the view's coordinates are about: of a table the viewport, beside which lie
+  /// headers and scroll bars.
+  [[nodiscard]] virtual const QWidget* contents(const QWidget& widget) const { return &widget; }
+
   [[nodiscard]] const ClassInfo& info() const { return *info_; }
 
 private:
