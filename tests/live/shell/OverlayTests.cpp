@@ -7,10 +7,14 @@
 #include <QAccessible>
 #include <QDialog>
 #include <QDockWidget>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
 #include <QPainter>
 #include <QSplitter>
 #include <QTextEdit>
 #include <QToolBar>
+#include <QVBoxLayout>
 
 namespace wayvane::qt::test {
 namespace {

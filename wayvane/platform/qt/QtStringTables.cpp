@@ -8,6 +8,12 @@ namespace wayvane::qt {
 
 namespace {
 
+/// The text without mnemonics; an ampersand between blanks is one of the text's own.
+QString shown(QString text)
+{
+  return withoutMnemonic(text.replace(QLatin1String("& "), QLatin1String("&& ")));
+}
+
 void addMessage(QXmlStreamReader& xml, TranslationSourceFile& file)
 {
   QString source;
@@ -24,10 +30,10 @@ void addMessage(QXmlStreamReader& xml, TranslationSourceFile& file)
     }
   }
   if (source.isEmpty() || file.sources.size() >= platform::kStringsFileEntryLimit) return;
-  const std::string key = toUtf8(withoutMnemonic(source));
+  const std::string key = toUtf8(shown(source));
   file.sources[key] = key;
   if (isFinished && !translation.trimmed().isEmpty())
-    file.translations[key] = toUtf8(withoutMnemonic(translation));
+    file.translations[key] = toUtf8(shown(translation));
 }
 
 } // namespace
