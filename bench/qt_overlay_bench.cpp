@@ -18,7 +18,12 @@
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QSlider>
+#include <QSpinBox>
 #include <QStatusBar>
+#include <QStyle>
+#include <QTabWidget>
 #include <QTableWidget>
 #include <QToolBar>
 #include <QTreeWidget>
@@ -53,35 +58,60 @@ public:
   double time = 0;
 };
 
+QWidget* control(int kind, const QString& title)
+{
+  switch (kind) {
+  case 0:
+    return new QPushButton(title);
+  case 1:
+    return new QLineEdit(title);
+  case 2:
+    return new QCheckBox(title);
+  case 3:
+    return new QLabel(title);
+  case 4:
+    return new QSpinBox;
+  case 5:
+    return new QSlider(Qt::Horizontal);
+  default:
+    return new QComboBox;
+  }
+}
+
 QWidget* controls(int rows, int columns)
 {
   auto* page = new QWidget;
   auto* grid = new QGridLayout(page);
-  grid->setSpacing(2);
+  grid->setSpacing(4);
   for (int row = 0; row < rows; ++row)
     for (int column = 0; column < columns; ++column) {
-      QWidget* control = nullptr;
-      switch ((row + column) % 5) {
-      case 0:
-        control = new QPushButton(QStringLiteral("Button %1.%2").arg(row).arg(column));
-        break;
-      case 1:
-        control = new QLineEdit(QStringLiteral("text"));
-        break;
-      case 2:
-        control = new QCheckBox(QStringLiteral("check"));
-        break;
-      case 3:
-        control = new QLabel(QStringLiteral("label"));
-        break;
-      default:
-        control = new QComboBox;
-        break;
-      }
-      control->setMaximumHeight(24);
-      grid->addWidget(control, row, column);
+      QWidget* made = control((row + column) % 7, QStringLiteral("Item %1.%2").arg(row).arg(column));
+      made->setMaximumHeight(24);
+      grid->addWidget(made, row, column);
     }
   return page;
+}
+
+QWidget* tree()
+{
+  auto* tree = new QTreeWidget;
+  tree->setHeaderLabels({QStringLiteral("Name"), QStringLiteral("Value")});
+  for (int i = 0; i < 30; ++i) {
+    auto* node = new QTreeWidgetItem(tree, {QStringLiteral("Node %1").arg(i), QString::number(i * 7)});
+    for (int leaf = 0; leaf < 3; ++leaf)
+      new QTreeWidgetItem(node, {QStringLiteral("Leaf %1").arg(leaf), QStringLiteral("x")});
+    node->setExpanded(true);
+  }
+  return tree;
+}
+
+QWidget* table()
+{
+  auto* table = new QTableWidget(200, 8);
+  for (int row = 0; row < table->rowCount(); ++row)
+    for (int column = 0; column < table->columnCount(); ++column)
+      table->setItem(row, column, new QTableWidgetItem(QStringLiteral("r%1 c%2").arg(row).arg(column)));
+  return table;
 }
 
 void fillBusily(QMainWindow& window)
@@ -91,21 +121,20 @@ void fillBusily(QMainWindow& window)
     window.menuBar()->addMenu(QString::fromLatin1(title))->addAction(QStringLiteral("Entry"));
   QToolBar* bar = window.addToolBar(QStringLiteral("Main"));
   for (int i = 0; i < 12; ++i)
-    bar->addAction(QStringLiteral("Tool %1").arg(i));
-  auto* tree = new QTreeWidget;
-  for (int i = 0; i < 60; ++i)
-    new QTreeWidgetItem(tree, {QStringLiteral("Node %1").arg(i)});
+    bar->addAction(window.style()->standardIcon(QStyle::SP_DirHomeIcon), QStringLiteral("Tool %1").arg(i));
   auto* dock = new QDockWidget(QStringLiteral("Inspector"));
-  dock->setWidget(tree);
+  dock->setWidget(tree());
   window.addDockWidget(Qt::LeftDockWidgetArea, dock);
-  auto* table = new QTableWidget(60, 6);
-  for (int row = 0; row < 60; ++row)
-    for (int column = 0; column < 6; ++column)
-      table->setItem(row, column, new QTableWidgetItem(QStringLiteral("r%1 c%2").arg(row).arg(column)));
+  auto* tabs = new QTabWidget;
+  tabs->addTab(table(), QStringLiteral("Table"));
+  auto* form = new QScrollArea;
+  form->setWidget(controls(40, 4));
+  form->setWidgetResizable(true);
   auto* center = new QWidget;
   auto* split = new QHBoxLayout(center);
-  split->addWidget(table, 2);
-  split->addWidget(controls(34, 9), 3);
+  split->addWidget(tabs, 2);
+  split->addWidget(form, 2);
+  split->addWidget(controls(34, 6), 3);
   window.setCentralWidget(center);
   window.statusBar()->showMessage(QStringLiteral("Ready"));
 }
@@ -118,6 +147,8 @@ struct Stage {
   LayerHandle mask = Layer::make(LayerKind::Shape);
   LayerHandle ring = Layer::make(LayerKind::Shape);
   LayerHandle bubble = Layer::make(LayerKind::Shape);
+  /// Around a button in the middle of the window, y up.
+  Rect target;
 
   Stage()
   {
@@ -128,9 +159,20 @@ struct Stage {
     panel = std::make_unique<qt::QtOverlayPanel>(Rect{}, 10, clock);
     panel->attachToWindow(qt::windowForWidget(&window));
     panel->orderFront();
+    target = aroundAButton();
     addDimming();
     addRing();
     QCoreApplication::processEvents();
+  }
+
+  [[nodiscard]] Rect aroundAButton() const
+  {
+    const QList<QPushButton*> buttons = window.findChildren<QPushButton*>();
+    const QPushButton* button = buttons.at(buttons.size() / 2);
+    const QPoint corner = button->mapTo(&window, QPoint());
+    return Rect{double(corner.x()), double(1000 - corner.y() - button->height()), double(button->width()),
+                double(button->height())}
+        .grownBy(8);
   }
 
   [[nodiscard]] static Path withHole(const Rect& hole)
@@ -149,14 +191,14 @@ struct Stage {
     mask->setFrame(dim->frame());
     mask->setFillRule(platform::FillRule::EvenOdd);
     mask->setFillColor(Color::white(1));
-    mask->setPath(withHole({400, 500, 160, 40}));
+    mask->setPath(withHole(target));
     dim->setMask(mask);
     panel->contentView().layer()->addSublayer(dim);
   }
 
   void addRing()
   {
-    ring->setFrame({400, 500, 160, 40});
+    ring->setFrame(target);
     ring->setFillColor(Color::clear());
     ring->setStrokeColor(Color::systemBlue());
     ring->setLineWidth(2);
@@ -211,8 +253,8 @@ void movingHole(benchmark::State& state)
   stage.ring->setHidden(true);
   Animation move;
   move.keyPath = platform::KeyPath::Path;
-  move.from = Stage::withHole({400, 500, 160, 40});
-  move.to = Stage::withHole({900, 200, 220, 60});
+  move.from = Stage::withHole(stage.target);
+  move.to = Stage::withHole({300, 200, 220, 60});
   move.duration = 0.5;
   move.autoreverses = true;
   move.repeatCount = Animation::kForever;

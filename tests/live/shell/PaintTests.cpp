@@ -127,6 +127,68 @@ TEST_F(QtScenePainter, DimIsTheSameInPartsAndInOne)
   EXPECT_EQ(parts, whole);
 }
 
+/// The largest difference between two pictures in any channel of any pixel.
+int difference(const QImage& one, const QImage& other)
+{
+  int most = 0;
+  for (int y = 0; y < one.height(); ++y)
+    for (int x = 0; x < one.width(); ++x) {
+      const QColor a = one.pixelColor(x, y), b = other.pixelColor(x, y);
+      most = std::max({most, std::abs(a.red() - b.red()), std::abs(a.green() - b.green()),
+                       std::abs(a.blue() - b.blue())});
+    }
+  return most;
+}
+
+QImage reference(const std::function<void(QPainter&)>& draw)
+{
+  QImage image(200, 100, QImage::Format_ARGB32_Premultiplied);
+  image.fill(Qt::white);
+  QPainter painter(&image);
+  painter.setRenderHint(QPainter::Antialiasing);
+  draw(painter);
+  return image;
+}
+
+TEST_F(QtScenePainter, HoleLooksAsIfFilledInOnePiece)
+{
+  for (const Rect& hole :
+       {Rect{50, 30, 60, 40}, Rect{50.5, 30.25, 60.3, 40.7}, Rect{20, 20, 12, 60}, Rect{-5, 80, 50, 40}}) {
+    root = Layer::make();
+    root->setFrame(kCanvas);
+    dimWithHole(hole, 0.4);
+    const QImage expected = reference([&](QPainter& painter) {
+      QPainterPath path;
+      path.addRect(0, 0, 200, 100);
+      path.addRoundedRect(QRectF(hole.x, 100 - hole.maxY(), hole.width, hole.height), 6, 6);
+      painter.setClipRect(0, 0, 200, 100);
+      painter.fillPath(path, QColor(0, 0, 0, 102));
+    });
+    EXPECT_LE(difference(drawn(), expected), 3) << hole.x;
+  }
+}
+
+TEST_F(QtScenePainter, RingLooksAsIfDrawnInOnePiece)
+{
+  for (const Rect& frame : {Rect{50, 30, 60, 40}, Rect{50.5, 30.25, 60.3, 40.7}, Rect{20, 20, 11, 60}}) {
+    root = Layer::make();
+    root->setFrame(kCanvas);
+    const LayerHandle ring = add(LayerKind::Shape, frame);
+    ring->setFillColor(Color::clear());
+    ring->setStrokeColor(Color::rgba(1, 0, 0, 0.5));
+    ring->setLineWidth(2);
+    Path path;
+    path.addRoundedRect({0, 0, frame.width, frame.height}, 6);
+    ring->setPath(path);
+    const QImage expected = reference([&](QPainter& painter) {
+      painter.setPen(QPen(QColor(255, 0, 0, 128), 2));
+      const double radius = std::min(6.0, frame.width / 2);
+      painter.drawRoundedRect(QRectF(frame.x, 100 - frame.maxY(), frame.width, frame.height), radius, radius);
+    });
+    EXPECT_LE(difference(drawn(), expected), 6) << frame.x;
+  }
+}
+
 TEST_F(QtScenePainter, MaskOfALayerWithSublayersCutsAllOfIt)
 {
   const LayerHandle group = add(LayerKind::Plain, kCanvas);

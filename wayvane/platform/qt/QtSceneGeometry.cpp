@@ -61,6 +61,19 @@ bool isOnBorder(Point p, const Rect& box)
   return near(p.x, box.x) || near(p.x, box.maxX()) || near(p.y, box.y) || near(p.y, box.maxY());
 }
 
+/// How far inside the box a rectangle has to stay to be clear of a corner.
+double cornerDepth(const Path::Element& curve, Point from, const Rect& box)
+{
+  const auto& [one, two, end] = curve.points;
+  const Point middle{(from.x + 3 * one.x + 3 * two.x + end.x) / 8,
+                     (from.y + 3 * one.y + 3 * two.y + end.y) / 8};
+  const double x = std::min(middle.x - box.x, box.maxX() - middle.x);
+  const double y = std::min(middle.y - box.y, box.maxY() - middle.y);
+  if (near(x, y)) return x;
+  // A lopsided corner at least stays on the far side of the chord between its ends.
+  return std::max(std::abs(end.x - from.x), std::abs(end.y - from.y)) / 2;
+}
+
 bool isRectangle(const std::vector<Path::Element>& elements, std::size_t first, std::size_t count)
 {
   for (std::size_t i = first; i < first + count; ++i)
@@ -81,13 +94,14 @@ QTransform toOuter(const Layer& layer, const platform::Transform& transform, dou
   return flip(frame.height) * toQTransform(transform) * flip(frame.height) * place;
 }
 
-QPainterPath toPainterPath(const Path& path, const Layer& layer)
+QPainterPath toPainterPath(const Path& path, const Layer& layer, std::size_t first)
 {
   const double height = layer.frame().height;
   const bool flipped = layer.geometryFlipped();
   const auto at = [&](Point p) { return QPointF(p.x, flipped ? p.y : height - p.y); };
   QPainterPath result;
-  for (const Path::Element& element : path.elements()) {
+  for (std::size_t i = first; i < path.elements().size(); ++i) {
+    const Path::Element& element = path.elements()[i];
     const auto& points = element.points;
     switch (element.verb) {
     case Path::Verb::Move:
@@ -148,13 +162,26 @@ Rect interiorOf(const std::vector<Path::Element>& elements, std::size_t first)
     const Point end = element.points[points - 1];
     const bool straight = near(end.x, previous.x) || near(end.y, previous.y);
     if (element.verb == Path::Verb::Line && !straight) return {};
-    // A corner stays on the far side of the chord between its ends.
-    if (element.verb == Path::Verb::Cubic)
-      corner = std::max({corner, std::abs(end.x - previous.x), std::abs(end.y - previous.y)});
+    if (element.verb == Path::Verb::Cubic) corner = std::max(corner, cornerDepth(element, previous, box));
     previous = end;
   }
-  const Rect inside = box.grownBy(-corner / 2);
+  const Rect inside = box.grownBy(-corner);
   return inside.isEmpty() ? Rect{} : inside;
+}
+
+double cornerOf(const std::vector<Path::Element>& elements, std::size_t first)
+{
+  double corner = 0;
+  Point previous;
+  for (std::size_t i = first; i < elements.size() && (i == first || elements[i].verb != Path::Verb::Move);
+       ++i) {
+    const std::size_t points = pointsOf(elements[i].verb);
+    if (points == 0) continue;
+    const Point end = elements[i].points[points - 1];
+    if (points == 3) corner = std::max({corner, std::abs(end.x - previous.x), std::abs(end.y - previous.y)});
+    previous = end;
+  }
+  return corner;
 }
 
 std::optional<HoleShape> holeShape(const Path& path)
@@ -164,9 +191,12 @@ std::optional<HoleShape> holeShape(const Path& path)
   const std::size_t outer = outlineLength(elements, 0);
   if (outer >= elements.size() || !isRectangle(elements, 0, outer)) return std::nullopt;
   HoleShape shape;
+  shape.first = outer;
   shape.outer = boxOf(elements, 0, outer);
   shape.box = boxOf(elements, outer, elements.size() - outer);
-  if (outer + outlineLength(elements, outer) == elements.size()) shape.interior = interiorOf(elements, outer);
+  if (outer + outlineLength(elements, outer) != elements.size()) return shape;
+  shape.interior = interiorOf(elements, outer);
+  shape.corner = cornerOf(elements, outer);
   return shape;
 }
 

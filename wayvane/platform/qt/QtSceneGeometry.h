@@ -14,8 +14,9 @@ namespace wayvane::qt {
 [[nodiscard]] QTransform toOuter(const platform::Layer& layer, const platform::Transform& transform,
                                  double outerHeight, bool outerFlipped);
 
-/// A path of the layer's in its downward coordinates.
-[[nodiscard]] QPainterPath toPainterPath(const platform::Path& path, const platform::Layer& layer);
+/// A path of the layer's, from its element `first` on, in its downward coordinates.
+[[nodiscard]] QPainterPath toPainterPath(const platform::Path& path, const platform::Layer& layer,
+                                         std::size_t first = 0);
 
 /// What the layer itself paints, shadow and stroke included, in its downward coordinates.
 [[nodiscard]] QRectF ownBox(const platform::Layer& layer, const platform::PresentedValues& values);
@@ -29,6 +30,10 @@ struct HoleShape {
   /// The box around the hole, and the largest simple rectangle inside it; in the path's own coordinates.
   platform::Rect box;
   platform::Rect interior;
+  /// How far its curved corners reach along its sides.
+  double corner = 0;
+  /// The element with which the hole's own outline begins.
+  std::size_t first = 0;
   friend bool operator==(const HoleShape&, const HoleShape&) = default;
 };
 
@@ -39,5 +44,8 @@ struct HoleShape {
 /// rectangle.
 [[nodiscard]] platform::Rect interiorOf(const std::vector<platform::Path::Element>& elements,
                                         std::size_t first = 0);
+
+/// How far the curves of an outline reach along its sides.
+[[nodiscard]] double cornerOf(const std::vector<platform::Path::Element>& elements, std::size_t first = 0);
 
 } // namespace wayvane::qt

@@ -1,4 +1,5 @@
 #include <wayvane/platform/qt/Conversions.h>
+#include <wayvane/platform/qt/QtBand.h>
 #include <wayvane/platform/qt/QtBlur.h>
 #include <wayvane/platform/qt/QtScenePainter.h>
 #include <wayvane/platform/qt/QtTextLayout.h>
@@ -100,6 +101,38 @@ bool isWhole(double number)
 bool isWhole(const QRectF& rect)
 {
   return isWhole(rect.x()) && isWhole(rect.y()) && isWhole(rect.width()) && isWhole(rect.height());
+}
+
+/// A mask that is an area with a hole, on the canvas.
+struct PlacedHole {
+  /// In whole points.
+  QRect area;
+  /// From the box around the hole, in whole points, to the hole.
+  Band band;
+};
+
+std::optional<PlacedHole> placedHole(const Layer& mask, const platform::Path& path,
+                                     const QTransform& toCanvas, const QRectF& bounds)
+{
+  if (mask.fillRule() != FillRule::EvenOdd || toCanvas.type() > QTransform::TxTranslate) return std::nullopt;
+  const std::optional<HoleShape> hole = holeShape(path);
+  if (!hole) return std::nullopt;
+  const auto placed = [&](const platform::Rect& rect) {
+    const double top = mask.geometryFlipped() ? rect.y : mask.frame().height - rect.maxY();
+    return toCanvas.mapRect(QRectF(rect.x, top, rect.width, rect.height));
+  };
+  const QRectF outer = placed(hole->outer);
+  if (!isWhole(outer) || !isWhole(bounds)) return std::nullopt;
+  PlacedHole result{outer.toRect() & bounds.toRect(), {}};
+  Band& band = result.band;
+  band.inner = placed(hole->box);
+  band.outer = touched(band.inner);
+  // An outline that is no rounded rectangle is all corner.
+  band.corner = hole->interior.isEmpty() ? band.inner.width() : hole->corner;
+  band.outline = toCanvas.map(toPainterPath(path, mask, hole->first));
+  band.outline.addRect(band.outer);
+  band.outline.setFillRule(Qt::OddEvenFill);
+  return result;
 }
 
 bool isPlainFill(const Layer& mask, platform::Appearance appearance)
@@ -204,7 +237,16 @@ void QtScenePainter::paintShape(const Surroundings& own, const Layer& layer, con
     pen.setDashPattern(dashes);
     pen.setDashOffset(values.lineDashPhase / layer.lineWidth());
   }
-  own.painter->strokePath(path, pen);
+  const bool isFrame = layer.lineDashPattern().empty() && own.toCanvas.type() <= QTransform::TxTranslate &&
+                       !interiorOf(values.path->elements()).isEmpty();
+  if (!isFrame) return own.painter->strokePath(path, pen);
+  QPainterPathStroker stroker(pen);
+  const double half = layer.lineWidth() / 2;
+  const QRectF box = own.toCanvas.mapRect(path.boundingRect());
+  const Band band{box.adjusted(-half, -half, half, half), box.adjusted(half, half, -half, -half),
+                  cornerOf(values.path->elements()), own.toCanvas.map(stroker.createStroke(path))};
+  own.painter->setTransform(own.toPainter);
+  fillBand(*own.painter, band, own.color(layer.strokeColor()), own.damage);
 }
 
 void QtScenePainter::paintShadow(const Surroundings& own, const Layer& layer, const PresentedValues& values)
@@ -328,8 +370,10 @@ void QtScenePainter::paintInRoundedBounds(const Surroundings& own, const Layer& 
   middle.damage = (own.damage & all) - corners;
   if (middle.damage.isEmpty()) return;
   own.painter->save();
-  own.painter->setTransform(own.toPainter);
-  own.painter->setClipRegion(middle.damage, Qt::IntersectClip);
+  if (middle.damage != own.damage) {
+    own.painter->setTransform(own.toPainter);
+    own.painter->setClipRegion(middle.damage, Qt::IntersectClip);
+  }
   paintSublayers(middle, layer);
   own.painter->restore();
 }
@@ -346,35 +390,24 @@ bool QtScenePainter::paintMaskedBackground(const Surroundings& own, const Layer&
   const QTransform toCanvas = toOuter(mask, values.transform, own.height, own.flipped) * own.toCanvas;
   const QColor color = own.color(layer.backgroundColor());
   const QRectF bounds = own.toCanvas.mapRect(boundsOf(layer));
-  QPainterPath path = toCanvas.map(toPainterPath(*values.path, mask));
-  path.setFillRule(mask.fillRule() == FillRule::EvenOdd ? Qt::OddEvenFill : Qt::WindingFill);
   QPainter& painter = *own.painter;
   painter.save();
   painter.setTransform(own.toPainter);
   painter.setOpacity(own.opacity * values.opacity);
   painter.setRenderHint(QPainter::Antialiasing);
-  QRegion curved = own.damage & touched(bounds);
-  const std::optional<HoleShape> hole =
-      mask.fillRule() == FillRule::EvenOdd ? holeShape(*values.path) : std::nullopt;
-  if (hole && toCanvas.type() <= QTransform::TxTranslate && isWhole(painter.device()->devicePixelRatioF())) {
-    const double height = mask.frame().height;
-    const auto placed = [&](const platform::Rect& rect) {
-      const double top = mask.geometryFlipped() ? rect.y : height - rect.maxY();
-      return toCanvas.mapRect(QRectF(rect.x, top, rect.width, rect.height));
-    };
-    const QRectF outer = placed(hole->outer);
-    if (isWhole(outer) && isWhole(bounds)) {
-      const QRegion inside = own.damage & outer.toRect() & bounds.toRect();
-      const QRect around = touched(placed(hole->box));
-      for (const QRect& part : inside - around)
-        painter.fillRect(part, color);
-      curved = inside & around;
-    }
-  }
-  if (!curved.isEmpty()) {
-    painter.setClipRegion(curved, Qt::IntersectClip);
+  const bool isSharp = isWhole(painter.device()->devicePixelRatioF());
+  if (const auto hole = isSharp ? placedHole(mask, *values.path, toCanvas, bounds) : std::nullopt) {
+    // Plain rectangles do everywhere but at the hole.
+    const QRect around = hole->band.outer.toRect();
+    for (const QRect& part : (own.damage & hole->area) - around)
+      painter.fillRect(part, color);
+    painter.setClipRect(hole->area, Qt::IntersectClip);
+    fillBand(painter, hole->band, color, own.damage & hole->area & around);
+  } else {
+    QPainterPath outline = toCanvas.map(toPainterPath(*values.path, mask));
+    outline.setFillRule(mask.fillRule() == FillRule::EvenOdd ? Qt::OddEvenFill : Qt::WindingFill);
     painter.setClipRect(bounds, Qt::IntersectClip);
-    painter.fillPath(path, color);
+    painter.fillPath(outline, color);
   }
   painter.restore();
   return true;

@@ -115,9 +115,14 @@ QRegion QtSceneSnapshot::coverage(const Entry& entry)
   const bool isOutline = look.kind == platform::LayerKind::Shape && look.fill.isClear() &&
                          look.background.isClear() && !look.shadow && !entry.mask && look.path;
   if (isOutline) {
-    const platform::Rect inside = interiorOf(look.path->elements()).grownBy(-look.lineWidth);
+    const auto placed = [&](const platform::Rect& rect) {
+      return entry.toCanvas.mapRect(toDownward(rect, look.bounds, look.flipped));
+    };
+    // A frame without sharp tips: half the line lies inside, half outside.
+    const platform::Rect inside = interiorOf(look.path->elements()).grownBy(-look.lineWidth / 2);
     if (!inside.isEmpty())
-      covered -= inward(entry.toCanvas.mapRect(toDownward(inside, look.bounds, look.flipped)));
+      covered =
+          QRegion(outward(placed(look.path->bounds().grownBy(look.lineWidth / 2)))) - inward(placed(inside));
   }
   if (entry.mask && entry.mask->look.path && entry.mask->toLayer.type() <= QTransform::TxScale) {
     const Look& mask = entry.mask->look;
