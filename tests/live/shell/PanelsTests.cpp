@@ -59,6 +59,7 @@ TEST_F(QtFloatingPanel, KeepsFrameInScreenCoordinates)
   EXPECT_EQ(panel->frame(), (Rect{600, 700, 200, 44}));
   EXPECT_EQ(panel->window()->frame(), panel->frame());
   EXPECT_TRUE(panel->isVisible());
+  keepPicture(widget()->grab().toImage(), QStringLiteral("panel"));
   panel->orderOut();
   EXPECT_FALSE(panel->isVisible());
 }
@@ -281,6 +282,25 @@ TEST_F(QtPopover, PressInsideKeepsItOpen)
   EXPECT_EQ(QApplication::focusWidget(), field("msgField"));
 }
 
+TEST_F(QtPopover, HandsTheKeyboardBack)
+{
+  button->setFocus();
+  show();
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+  EXPECT_TRUE(waitUntil([&] { return QApplication::focusWidget() == button; }));
+}
+
+TEST_F(QtPopover, CanBeShownAgain)
+{
+  show();
+  popover->close();
+  EXPECT_FALSE(popover->isShown());
+  show();
+  EXPECT_TRUE(popover->isShown());
+  popover->close();
+  EXPECT_EQ(closes, 2);
+}
+
 TEST_F(QtPopover, LiesBelowItsAnchorWithTheArrowAtItsMiddle)
 {
   show();
@@ -288,6 +308,7 @@ TEST_F(QtPopover, LiesBelowItsAnchorWithTheArrowAtItsMiddle)
   const Rect anchor = handle()->convertRectToScreen({40, 220, 120, 40});
   EXPECT_EQ(frame.maxY(), anchor.y);
   EXPECT_NEAR(frame.center().x, anchor.center().x, 1);
+  keepPicture(widget()->grab().toImage(), QStringLiteral("popover"));
 }
 
 TEST_F(QtPopover, LiesAboveItsAnchorWhereThereIsNoRoomBelow)

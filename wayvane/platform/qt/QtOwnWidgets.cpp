@@ -98,6 +98,12 @@ void exemptFromModality(QWidget& window)
   new ModalityExemption(window);
 }
 
+bool windowsCanShineThrough()
+{
+  // X11 may have a compositor or not, and may lose it at any time.
+  return QGuiApplication::platformName() != QLatin1String("xcb");
+}
+
 bool toolWindowsActivate()
 {
   const QString name = QGuiApplication::platformName();

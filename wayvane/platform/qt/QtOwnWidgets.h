@@ -15,6 +15,9 @@ void dispose(QWidget* widget);
 /// Lets a window of ours be used while the program shows a modal dialog, whichever and however many.
 void exemptFromModality(QWidget& window);
 
+/// Whether what is below a window of ours may shine through it; without a compositor it would be black.
+[[nodiscard]] bool windowsCanShineThrough();
+
 /// Whether top-level windows of ours must not be of the kind that takes the keyboard: on platforms without a
 /// window manager a tool window becomes the active one however it is shown.
 [[nodiscard]] bool toolWindowsActivate();

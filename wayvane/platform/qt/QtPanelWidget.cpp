@@ -2,7 +2,6 @@
 #include <wayvane/platform/qt/QtOwnWidgets.h>
 #include <wayvane/platform/qt/QtPanelWidget.h>
 
-#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -35,7 +34,7 @@ QtPanelWidget::QtPanelWidget(const platform::FloatingPanelSpec& spec, Content co
   , background_(spec.background)
   , cornerRadius_(spec.cornerRadius)
   , isMovable_(spec.movable)
-  , isTranslucent_(QGuiApplication::platformName() != QLatin1String("xcb"))
+  , isTranslucent_(windowsCanShineThrough())
 {
   setObjectName(QStringLiteral("wv_panel"));
   setAttribute(Qt::WA_ShowWithoutActivating);

@@ -5,6 +5,8 @@
 #include <wayvane/platform/qt/QtPopoverWidget.h>
 #include <wayvane/platform/qt/QtWindow.h>
 
+#include <QApplication>
+
 #include <utility>
 
 namespace wayvane::qt {
@@ -30,6 +32,7 @@ bool QtPopover::show(const platform::WindowHandle& window, const platform::Rect&
   QWidget* const owner = window ? widgetOf(*window) : nullptr;
   if (!owner || !owner->isVisible() || !widget_ || isShown_) return false;
   isShown_ = true;
+  owner_ = owner;
   widget_->showAt(globalFromScreenRect(window->convertRectToScreen(anchor)), *owner);
   return true;
 }
@@ -37,17 +40,19 @@ bool QtPopover::show(const platform::WindowHandle& window, const platform::Rect&
 void QtPopover::press(std::size_t button)
 {
   if (!isShown_ || button >= spec_.buttons.size()) return;
-  const QPointer<QtPopoverWidget> alive = widget_;
+  const std::weak_ptr<bool> alive = life_;
   // The callback may drop the popover, and itself with it.
   const std::function<void()> onClick = spec_.buttons[button].onClick;
   if (onClick) guarded("popover button", onClick);
-  if (alive && alive->isVisible()) close();
+  if (!alive.expired()) close();
 }
 
 void QtPopover::close()
 {
   if (!std::exchange(isShown_, false)) return;
   if (widget_) widget_->hide();
+  // Without a window manager nobody else hands the keyboard back.
+  if (owner_ && !QApplication::activeWindow()) owner_->activateWindow();
   const std::function<void()> onClose = spec_.onClose;
   if (onClose) guarded("popover", onClose);
 }

@@ -3,6 +3,9 @@
 #include <wayvane/platform/Panels.h>
 
 #include <QPointer>
+#include <QWidget>
+
+#include <memory>
 
 namespace wayvane::qt {
 
@@ -26,7 +29,11 @@ private:
 
   platform::PopoverSpec spec_;
   QPointer<QtPopoverWidget> widget_;
+  /// The window it lies over, which gets the keyboard back.
+  QPointer<QWidget> owner_;
   bool isShown_ = false;
+  /// Ends with the popover: callbacks may drop it.
+  std::shared_ptr<bool> life_ = std::make_shared<bool>(true);
 };
 
 } // namespace wayvane::qt

@@ -8,7 +8,6 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPainterPath>
 #include <QPushButton>
 #include <QScreen>
 #include <QWindow>
@@ -34,7 +33,7 @@ QtPopoverWidget::QtPopoverWidget(const platform::PopoverSpec& spec)
 {
   setObjectName(QStringLiteral("wv_popover"));
   setAttribute(Qt::WA_QuitOnClose, false);
-  setAttribute(Qt::WA_TranslucentBackground);
+  setAttribute(Qt::WA_TranslucentBackground, windowsCanShineThrough());
   setFixedSize(static_cast<int>(std::ceil(contentSize_.width)) + 2 * kArrow,
                static_cast<int>(std::ceil(contentSize_.height)) + 2 * kArrow);
   addFields(spec);
@@ -90,10 +89,12 @@ void QtPopoverWidget::showAt(const QRectF& anchor, QWidget& owner)
   const double reach = kArrow + kCorner + kArrow;
   arrowX_ = std::clamp(anchor.center().x() - x, reach, std::max(reach, width() - reach));
   move(x, y);
+  if (!windowsCanShineThrough()) setMask(QRegion(shape().toFillPolygon().toPolygon()));
   winId();
   windowHandle()->setTransientParent(owner.window()->windowHandle());
   connect(&owner, &QObject::destroyed, this, [this] { emit dismissed(); });
   qApp->installEventFilter(this);
+  ++showings_;
   show();
   raise();
   activateWindow();
@@ -127,7 +128,11 @@ bool QtPopoverWidget::isOutside(QObject* receiver, QPoint global) const
 void QtPopoverWidget::dismissLater()
 {
   QMetaObject::invokeMethod(
-      this, [this] { emit dismissed(); }, Qt::QueuedConnection);
+      this,
+      [this, showing = showings_] {
+        if (showing == showings_) emit dismissed();
+      },
+      Qt::QueuedConnection);
 }
 
 bool QtPopoverWidget::eventFilter(QObject* watched, QEvent* event)
@@ -170,26 +175,34 @@ void QtPopoverWidget::closeEvent(QCloseEvent* event)
 void QtPopoverWidget::hideEvent(QHideEvent* event)
 {
   QWidget::hideEvent(event);
-  if (!event->spontaneous()) dismissLater();
+  if (event->spontaneous()) return;
+  qApp->removeEventFilter(this);
+  dismissLater();
+}
+
+QPainterPath QtPopoverWidget::shape() const
+{
+  const QRectF body = QRectF(rect()).adjusted(1, kArrow, -1, -kArrow);
+  // The arrow reaches into the body, so that the two become one outline.
+  const double base = isArrowOnTop_ ? body.top() + 1 : body.bottom() - 1;
+  const double tip = isArrowOnTop_ ? 1 : height() - 1;
+  QPainterPath bubble;
+  bubble.addRoundedRect(body, kCorner, kCorner);
+  QPainterPath arrow;
+  arrow.moveTo(arrowX_ - kArrow, base);
+  arrow.lineTo(arrowX_, tip);
+  arrow.lineTo(arrowX_ + kArrow, base);
+  arrow.closeSubpath();
+  return bubble.united(arrow);
 }
 
 void QtPopoverWidget::paintEvent(QPaintEvent*)
 {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  const QRectF body = QRectF(rect()).adjusted(1, kArrow, -1, -kArrow);
-  const double base = isArrowOnTop_ ? body.top() : body.bottom();
-  const double tip = isArrowOnTop_ ? 1 : height() - 1;
-  QPainterPath shape;
-  shape.addRoundedRect(body, kCorner, kCorner);
-  QPainterPath arrow;
-  arrow.moveTo(arrowX_ - kArrow, base);
-  arrow.lineTo(arrowX_, tip);
-  arrow.lineTo(arrowX_ + kArrow, base);
-  arrow.closeSubpath();
   painter.setPen(QPen(palette().color(QPalette::Mid), 1));
   painter.setBrush(palette().color(QPalette::Window));
-  painter.drawPath(shape.united(arrow));
+  painter.drawPath(shape());
 }
 
 } // namespace wayvane::qt

@@ -2,7 +2,7 @@
 
 #include <wayvane/platform/Panels.h>
 
-#include <QPointer>
+#include <QPainterPath>
 #include <QWidget>
 
 #include <map>
@@ -38,6 +38,8 @@ protected:
 private:
   void addFields(const platform::PopoverSpec& spec);
   void addButtons(const platform::PopoverSpec& spec);
+  /// The bubble with its arrow.
+  [[nodiscard]] QPainterPath shape() const;
   [[nodiscard]] QRect toWidget(const platform::Rect& frame) const;
   [[nodiscard]] bool isOutside(QObject* receiver, QPoint global) const;
   void dismissLater();
@@ -49,6 +51,8 @@ private:
   /// Above the content when the popover is below its anchor.
   bool isArrowOnTop_ = true;
   double arrowX_ = 0;
+  /// How often it was shown: what ends one showing does not end the next.
+  int showings_ = 0;
 };
 
 } // namespace wayvane::qt
