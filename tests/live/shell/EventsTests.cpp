@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QPointingDevice>
 #include <QSignalSpy>
 
 #include <optional>
@@ -349,6 +350,26 @@ TEST_F(QtEvents, ResizeOfAWidgetInsideAWindowIsNotTold)
   button->resize(200, 80);
   spin();
   EXPECT_EQ(told, 0);
+}
+
+TEST_F(QtEvents, TouchThatBecomesAPressIsJudgedAsOne)
+{
+  const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
+  const auto tap = [&] {
+    const QPoint at = button->mapTo(window.get(), button->rect().center());
+    QTest::touchEvent(window->windowHandle(), screen.get()).press(0, at, window->windowHandle());
+    QTest::touchEvent(window->windowHandle(), screen.get()).release(0, at, window->windowHandle());
+    spin();
+  };
+  const Registration token = monitor();
+  tap();
+  EXPECT_EQ(seen, 1);
+  EXPECT_EQ(clicks, 1);
+  verdict = EventVerdict::Swallow;
+  QTest::qWait(QApplication::doubleClickInterval() + 50);
+  tap();
+  EXPECT_EQ(seen, 2);
+  EXPECT_EQ(clicks, 1);
 }
 
 TEST_F(QtEvents, NothingIsFilteredWhenNobodyListens)
