@@ -43,6 +43,7 @@ protected:
     window = new trailbook::MainWindow;
     window->move(60, 60);
     window->show();
+    window->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(window));
     ASSERT_TRUE(install());
     WVGuideManager::sharedManager().setStringsFileNames({"trailbook"});
@@ -196,6 +197,7 @@ TEST_F(FullLoop, AGuideRecordedInEnglishFindsAllItsTargetsInGerman)
   window = new trailbook::MainWindow;
   user = new User(*window);
   window->show();
+  window->activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(window));
   ASSERT_EQ(window->windowTitle(), QStringLiteral("Wanderbuch"));
   const char* const expected[] = {"saveButton", "trailTable", "searchField", "revertButton", "detailTabs"};
