@@ -4,6 +4,8 @@
 #include <QHeaderView>
 #include <QTreeView>
 
+#include <cstdlib>
+
 namespace wayvane::qt {
 
 namespace {
@@ -31,18 +33,6 @@ QModelIndex lastShown(const QTreeView& tree)
   return result;
 }
 
-void countShown(const QTreeView& tree, const QModelIndex& parent, int& count)
-{
-  const QAbstractItemModel& model = *tree.model();
-  const int rows = model.rowCount(parent);
-  for (int row = 0; row < rows && count < QtTableRows::kMostTreeRows; ++row) {
-    if (tree.isRowHidden(row, parent)) continue;
-    ++count;
-    const QModelIndex child = model.index(row, 0, parent);
-    if (model.hasChildren(child) && tree.isExpanded(child)) countShown(tree, child, count);
-  }
-}
-
 int topOf(const QTreeView& tree, const QModelIndex& index)
 {
   return tree.visualRect(index).top() + scrollOffset(tree).y();
@@ -67,7 +57,9 @@ int QtTableRows::countTree(const QTreeView& tree)
   if (!last.isValid()) return 0;
   if (last_.index == last && last_.holds(tree)) return last_.row + 1;
   int count = 0;
-  countShown(tree, tree.rootIndex(), count);
+  for (QModelIndex index = shownChild(tree, tree.rootIndex(), false);
+       index.isValid() && count < kMostTreeRows; index = tree.indexBelow(index))
+    ++count;
   place(last_, tree, last, count - 1);
   return count;
 }
