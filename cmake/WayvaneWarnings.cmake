@@ -9,6 +9,9 @@ target_compile_options(wayvane_warnings INTERFACE
   $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-branches -Wduplicated-cond -Wlogical-op>
   # GCC 12 reports overlapping copies inside std::string's operator+ where there are none.
   $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
-  # Under the sanitizers it loses track of which member of a std::variant is there.
-  $<$<AND:$<CXX_COMPILER_ID:GNU>,$<BOOL:${WAYVANE_SANITIZE}>>:-Wno-maybe-uninitialized>
   $<$<BOOL:${WAYVANE_WERROR}>:-Werror>)
+
+if(WAYVANE_SANITIZE AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  # Sanitized, it loses track of which member of a std::variant is there.
+  target_compile_options(wayvane_warnings INTERFACE -Wno-maybe-uninitialized)
+endif()
