@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -54,14 +55,36 @@ std::array<QRect, 4> cornersOf(const Band& band, const Cuts& cut)
 
 } // namespace
 
+void fillInSlices(QPainter& painter, const QPainterPath& outline, const QColor& color)
+{
+  constexpr int kSlice = 40;
+  constexpr int kMostSlices = 10;
+  const QTransform map = painter.transform();
+  const QRect box = map.mapRect(outline.boundingRect()).toAlignedRect().adjusted(-1, -1, 1, 1);
+  if (box.height() <= kSlice || box.height() > kMostSlices * kSlice || map.type() > QTransform::TxScale)
+    return painter.fillPath(outline, color);
+  for (int top = box.top(); top <= box.bottom(); top += kSlice) {
+    const QRect slice(box.left(), top, box.width(), std::min(kSlice, box.bottom() + 1 - top));
+    painter.save();
+    painter.resetTransform();
+    painter.setClipRect(slice, Qt::IntersectClip);
+    painter.setTransform(map);
+    painter.fillPath(outline, color);
+    painter.restore();
+  }
+}
+
 void fillBand(QPainter& painter, const Band& band, const QColor& color, const QRegion& damage)
 {
   const Cuts cut = cutsOf(band);
   if (cut.left >= cut.right || cut.top >= cut.bottom) return fillWithin(painter, band.outline, color, damage);
   for (const QRectF& side : sidesOf(band, cut))
     if (!side.isEmpty() && damage.intersects(side.toAlignedRect())) painter.fillRect(side, color);
-  for (const QRect& corner : cornersOf(band, cut))
-    fillWithin(painter, band.outline, color, damage & corner);
+  // Two corners at a time: an outline costs its way through the rasterizer, and a hundred lines of it a
+  // detour through other threads.
+  const auto [topLeft, topRight, bottomLeft, bottomRight] = cornersOf(band, cut);
+  fillWithin(painter, band.outline, color, damage & (QRegion(topLeft) + topRight));
+  fillWithin(painter, band.outline, color, damage & (QRegion(bottomLeft) + bottomRight));
 }
 
 } // namespace wayvane::qt

@@ -20,6 +20,10 @@ struct Band {
   QPainterPath outline;
 };
 
+/// Fills the outline, whatever its size, without the detour through other threads that the toolkit takes for
+/// large ones: it costs more than it brings. The painter's transform applies.
+void fillInSlices(QPainter& painter, const QPainterPath& outline, const QColor& color);
+
 /// Fills what of the band lies in `damage`, without gaps and without filling anything twice.
 void fillBand(QPainter& painter, const Band& band, const QColor& color, const QRegion& damage);
 

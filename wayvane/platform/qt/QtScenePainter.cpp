@@ -215,7 +215,7 @@ void QtScenePainter::paintOwn(const Surroundings& own, const Layer& layer, const
   if (layer.kind() == LayerKind::Text && !layer.text().isEmpty()) {
     own.painter->save();
     own.painter->setClipRect(boundsOf(layer), Qt::IntersectClip);
-    QtTextLayout(layer.text(), layer.frame().width, layer.wrapsText(), own.appearance).draw(*own.painter);
+    cache_.layoutOf(layer, own.appearance).draw(*own.painter);
     own.painter->restore();
   }
 }
@@ -225,7 +225,7 @@ void QtScenePainter::paintShape(const Surroundings& own, const Layer& layer, con
   if (!values.path || values.path->isEmpty()) return;
   QPainterPath path = toPainterPath(*values.path, layer);
   path.setFillRule(layer.fillRule() == FillRule::EvenOdd ? Qt::OddEvenFill : Qt::WindingFill);
-  if (!layer.fillColor().isClear()) own.painter->fillPath(path, own.color(layer.fillColor()));
+  if (!layer.fillColor().isClear()) fillInSlices(*own.painter, path, own.color(layer.fillColor()));
   if (layer.strokeColor().isClear() || !(layer.lineWidth() > 0)) return;
   QPen pen(own.color(layer.strokeColor()), layer.lineWidth(), Qt::SolidLine, Qt::FlatCap, Qt::SvgMiterJoin);
   pen.setMiterLimit(2);
@@ -237,14 +237,14 @@ void QtScenePainter::paintShape(const Surroundings& own, const Layer& layer, con
     pen.setDashPattern(dashes);
     pen.setDashOffset(values.lineDashPhase / layer.lineWidth());
   }
-  const bool isFrame = layer.lineDashPattern().empty() && own.toCanvas.type() <= QTransform::TxTranslate &&
-                       !interiorOf(values.path->elements()).isEmpty();
-  if (!isFrame) return own.painter->strokePath(path, pen);
-  QPainterPathStroker stroker(pen);
+  const bool isFrame =
+      own.toCanvas.type() <= QTransform::TxTranslate && !interiorOf(values.path->elements()).isEmpty();
+  if (!layer.lineDashPattern().empty()) return own.painter->strokePath(path, pen);
+  if (!isFrame) return fillInSlices(*own.painter, cache_.strokeOf(path, pen), pen.color());
   const double half = layer.lineWidth() / 2;
   const QRectF box = own.toCanvas.mapRect(path.boundingRect());
   const Band band{box.adjusted(-half, -half, half, half), box.adjusted(half, half, -half, -half),
-                  cornerOf(values.path->elements()), own.toCanvas.map(stroker.createStroke(path))};
+                  cornerOf(values.path->elements()), own.toCanvas.map(cache_.strokeOf(path, pen))};
   own.painter->setTransform(own.toPainter);
   fillBand(*own.painter, band, own.color(layer.strokeColor()), own.damage);
 }
@@ -260,40 +260,22 @@ void QtScenePainter::paintShadow(const Surroundings& own, const Layer& layer, co
   }
   if (shape.isEmpty()) return;
   const platform::Shadow& shadow = *layer.shadow();
-  const double scale = own.painter->device()->devicePixelRatioF();
-  const QImage& picture = blurredShadow(shape, own.color(shadow.color), shadow.blurRadius, scale);
-  const double reach = blurReach(shadow);
-  const QPointF corner = shape.boundingRect().toAlignedRect().topLeft() - QPointF(reach, reach);
-  own.usePainter();
-  own.painter->setRenderHint(QPainter::SmoothPixmapTransform);
-  own.painter->drawImage(corner + QPointF(shadow.offset.width, -shadow.offset.height), picture);
-}
-
-const QImage& QtScenePainter::blurredShadow(const QPainterPath& shape, const QColor& color, double blurRadius,
-                                            double scale)
-{
-  for (const BlurredShadow& known : shadows_)
-    if (known.scale == scale && known.blurRadius == blurRadius && known.color == color.rgba() &&
-        known.shape == shape)
-      return known.picture;
-  constexpr std::size_t kMostShadows = 8;
-  if (shadows_.size() >= kMostShadows) shadows_.pop_front();
-  const int reach = static_cast<int>(blurReach({{}, {}, blurRadius}));
-  const QRect box = shape.boundingRect().toAlignedRect().adjusted(-reach, -reach, reach, reach);
-  QImage picture((QSizeF(box.size()) * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
-  if (!picture.isNull()) {
-    picture.setDevicePixelRatio(scale);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.translate(-box.topLeft());
-    painter.fillPath(shape, color);
-    painter.end();
-    // Blur radii are given as twice the deviation of the bell curve.
-    blur(picture, blurRadius * scale / 2);
+  const QtSceneCache::Shadow& made = cache_.shadowOf(shape, own.color(shadow.color), shadow.blurRadius,
+                                                     own.painter->device()->devicePixelRatioF());
+  own.painter->save();
+  // What an opaque body covers need not be drawn first.
+  const platform::Color& body =
+      layer.kind() == LayerKind::Shape ? layer.fillColor() : layer.backgroundColor();
+  const bool isCovered = body.resolved(own.appearance).alpha >= 1 && own.opacity >= 1;
+  if (isCovered && !made.body.isEmpty() && own.toCanvas.type() <= QTransform::TxScale) {
+    const QRect hidden =
+        own.toCanvas.mapRect(made.body).adjusted(1, 1, -1, -1).toRect().adjusted(1, 1, -1, -1);
+    own.painter->setTransform(own.toPainter);
+    own.painter->setClipRegion(own.damage - hidden, Qt::IntersectClip);
   }
-  shadows_.push_back({shape, color.rgba(), blurRadius, scale, picture});
-  return shadows_.back().picture;
+  own.usePainter();
+  own.painter->drawImage(made.place + QPointF(shadow.offset.width, -shadow.offset.height), made.picture);
+  own.painter->restore();
 }
 
 template <class Draw>
@@ -358,6 +340,9 @@ void QtScenePainter::paintInRoundedBounds(const Surroundings& own, const Layer& 
   // Only the corners cost a group; most damage is elsewhere.
   const QRect all = box.toRect();
   const int side = static_cast<int>(std::ceil(layer.cornerRadius()));
+  const QRect damaged = own.damage.boundingRect();
+  if (all.adjusted(side, 0, -side, 0).contains(damaged) || all.adjusted(0, side, 0, -side).contains(damaged))
+    return paintSublayers(own, layer);
   const QRect corner(0, 0, std::min(side, all.width()), std::min(side, all.height()));
   QRegion corners;
   for (const QPoint place : {all.topLeft(), QPoint(all.right() + 1 - corner.width(), all.top()),

@@ -1,17 +1,15 @@
 #pragma once
 
+#include <wayvane/platform/qt/QtSceneCache.h>
 #include <wayvane/platform/qt/QtSceneGeometry.h>
 
-#include <QImage>
 #include <QRegion>
-
-#include <list>
 
 class QPainter;
 
 namespace wayvane::qt {
 
-/// Draws a layer tree. Keeps the pictures of blurred shadows from one drawing to the next.
+/// Draws a layer tree.
 class QtScenePainter {
 public:
   /// Draws what lies in `damage` of the tree whose root fills a canvas `canvas` large, y up. The painter's
@@ -21,14 +19,6 @@ public:
 
 private:
   struct Surroundings;
-
-  struct BlurredShadow {
-    QPainterPath shape;
-    QRgb color = 0;
-    double blurRadius = 0;
-    double scale = 1;
-    QImage picture;
-  };
 
   void paintLayer(const Surroundings& outer, const platform::Layer& layer);
   void paintContents(const Surroundings& own, const platform::Layer& layer,
@@ -48,10 +38,8 @@ private:
   template <class Draw>
   void paintGrouped(const Surroundings& own, const QRect& area, double opacity, Draw draw);
   void cutByMask(const Surroundings& own, const platform::Layer& layer);
-  [[nodiscard]] const QImage& blurredShadow(const QPainterPath& shape, const QColor& color, double blurRadius,
-                                            double scale);
 
-  std::list<BlurredShadow> shadows_;
+  QtSceneCache cache_;
 };
 
 } // namespace wayvane::qt
