@@ -26,9 +26,10 @@ protected:
     return desktop.popover();
   }
 
+  // Outlives the desktop, whose end closes what is still open.
+  std::vector<std::string> answers;
   sim::Desktop desktop;
   std::shared_ptr<sim::Window> window = desktop.addWindow("Main", {100, 100, 800, 628});
-  std::vector<std::string> answers;
 };
 
 TEST_F(AnnotationPopover, HasATitleAMessageAndTwoButtons)

@@ -86,7 +86,8 @@ std::optional<std::string_view> pathInsideCell(std::string_view path, std::strin
 ViewHandle viewInCell(const WVTargetDescriptor& descriptor, const ViewHandle& cell)
 {
   const auto cellClass = cell->className();
-  if (const auto path = pathInsideCell(descriptor.hierarchyPath.value_or(""), cellClass)) {
+  const std::string wholePath = descriptor.hierarchyPath.value_or("");
+  if (const auto path = pathInsideCell(wholePath, cellClass)) {
     if (auto view = wv_viewAtHierarchyPath(*cell, *path)) return view;
   }
   if (descriptor.className && *descriptor.className != cellClass) {
