@@ -6,7 +6,7 @@ packages_of() {
   case "$1" in
     build)   echo g++ cmake ninja-build nlohmann-json3-dev ;;
     qt)      echo qt6-base-dev qt6-tools-dev qt6-l10n-tools fonts-dejavu-core ;;
-    test)    echo libgtest-dev libgmock-dev xvfb xauth xdotool openbox ;;
+    test)    echo libgtest-dev libgmock-dev pkg-config xvfb xauth xdotool openbox ;;
     bench)   echo libbenchmark-dev ;;
     tools)   echo clang clang-tidy clang-format ccache ;;
     # Programs that nobody here wrote, as hosts.
