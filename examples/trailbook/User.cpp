@@ -89,7 +89,12 @@ QMenu* User::openMenu(const QString& title)
 
 bool User::choose(const QString& menuTitle, const QString& itemTitle)
 {
-  QMenu* const menu = openMenu(menuTitle);
+  return openMenu(menuTitle) && chooseFromOpenMenu(itemTitle);
+}
+
+bool User::chooseFromOpenMenu(const QString& itemTitle)
+{
+  auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
   if (!menu) return false;
   for (QAction* const action : menu->actions())
     if (withoutMnemonic(action->text()) == itemTitle) {

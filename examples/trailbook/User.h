@@ -38,6 +38,8 @@ public:
   QMenu* openMenu(const QString& title);
   /// Opens the menu and clicks the entry. False, with the menu closed, when there is no such entry.
   bool choose(const QString& menuTitle, const QString& itemTitle);
+  /// Clicks the entry of the menu that is open. False, with the menu closed, when there is no such entry.
+  bool chooseFromOpenMenu(const QString& itemTitle);
 
   /// The visible push button of that title in any window; null when there is none.
   static QAbstractButton* button(const QString& title);

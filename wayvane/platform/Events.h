@@ -15,6 +15,8 @@ struct MouseEvent {
   Point locationInWindow;
   /// Where the press went to an open menu or pop-up list.
   bool inMenu = false;
+  /// Where the press is on a menu bar, with no menu open yet.
+  bool inMenuBar = false;
 };
 
 enum class EventVerdict : std::uint8_t { PassOn, Swallow };

@@ -41,7 +41,9 @@ void logClick(const ViewHandle& view, const MouseEvent& event, const WVTargetDes
 void WVRecorder::_handleLeftMouseDown(const MouseEvent& event)
 {
   const bool inUtilityPanel = event.window && event.window->isUtilityPanel();
-  if (!recording_ || capturingAnnotation_ || event.inMenu || _isBadge(event.window) || inUtilityPanel) return;
+  if (!recording_ || capturingAnnotation_ || _isBadge(event.window) || inUtilityPanel) return;
+  // The command that is chosen in the end is the step.
+  if (event.inMenu || event.inMenuBar) return;
   const auto [view, target] = hitByEvent(event);
   if (!view || !target) return;
   logClick(view, event, *target);

@@ -6,6 +6,7 @@
 #include <QDialog>
 #include <QLabel>
 #include <QMenu>
+#include <QMenuBar>
 #include <QMouseEvent>
 #include <QPointingDevice>
 #include <QSignalSpy>
@@ -301,6 +302,36 @@ TEST_F(QtEvents, PressInAnOpenMenuSaysSo)
   click(menu, menu.actionGeometry(action).center());
   ASSERT_TRUE(last);
   EXPECT_TRUE(last->inMenu);
+}
+
+TEST_F(QtEvents, PressOnTheMenuBarSaysSo)
+{
+  QMenu* const file = window->menuBar()->addMenu(QStringLiteral("File"));
+  file->addAction(QStringLiteral("Open"));
+  spin();
+  const Registration token = monitor();
+  click(*window->menuBar(), window->menuBar()->actionGeometry(file->menuAction()).center());
+  file->close();
+  ASSERT_TRUE(last);
+  EXPECT_TRUE(last->inMenuBar);
+  EXPECT_FALSE(last->inMenu);
+  click(*button);
+  EXPECT_FALSE(last->inMenuBar);
+}
+
+TEST_F(QtEvents, PressInAWindowWithinAContainerIsOneInTheWindowAround)
+{
+  auto* const inner = new QWindow;
+  QWidget* const container = QWidget::createWindowContainer(inner, window.get());
+  container->setGeometry(40, 120, 200, 100);
+  container->show();
+  spin();
+  const Registration token = monitor();
+  QTest::mouseClick(inner, Qt::LeftButton, {}, QPoint(30, 20));
+  EXPECT_EQ(seen, 1);
+  ASSERT_TRUE(last);
+  EXPECT_TRUE(platform::isSameWindow(last->window, handle()));
+  EXPECT_EQ(last->locationInWindow, (platform::Point{70, 300 - 140}));
 }
 
 TEST_F(QtEvents, PressInAComboBoxListSaysSo)

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QCursor>
 #include <QMenu>
+#include <QMenuBar>
 #include <QMouseEvent>
 #include <QWindow>
 
@@ -25,12 +26,25 @@ bool isCursorReal()
   return name != QLatin1String("offscreen") && name != QLatin1String("minimal");
 }
 
+QWidget* widgetShownBy(const QWindow& window)
+{
+  return window.handle() ? QWidget::find(window.winId()) : nullptr;
+}
+
+/// A window without a widget may lie in the container that some widget is to it.
 QWidget* topLevelBehind(QObject* receiver)
 {
   if (receiver->isWidgetType()) return static_cast<QWidget*>(receiver)->window();
-  auto* window = qobject_cast<QWindow*>(receiver);
-  QWidget* widget = window && window->handle() ? QWidget::find(window->winId()) : nullptr;
-  return widget ? widget->window() : nullptr;
+  for (const auto* window = qobject_cast<QWindow*>(receiver); window; window = window->parent())
+    if (const QWidget* const widget = widgetShownBy(*window)) return widget->window();
+  return nullptr;
+}
+
+bool isOnMenuBar(const QWidget* topLevel, QPoint global)
+{
+  const QWidget* hit = topLevel ? topLevel->childAt(topLevel->mapFromGlobal(global)) : nullptr;
+  if (hit && hit->objectName() == QLatin1String("qt_menubar_ext_button")) hit = hit->parentWidget();
+  return qobject_cast<const QMenuBar*>(hit) != nullptr;
 }
 
 bool isMenuOrList(const QWidget& popup)
@@ -58,7 +72,9 @@ MouseEvent describe(QObject* receiver, const QMouseEvent& event)
   result.type =
       event.type() == QEvent::MouseMove ? MouseEvent::Type::MouseMoved : MouseEvent::Type::LeftMouseDown;
   result.inMenu = popup && isMenuOrList(*popup);
-  result.window = windowForWidget(popup ? popup : topLevelBehind(receiver));
+  QWidget* const topLevel = popup ? popup : topLevelBehind(receiver);
+  result.inMenuBar = !popup && isOnMenuBar(topLevel, global.toPoint());
+  result.window = windowForWidget(topLevel);
   const platform::Point onScreen = screenPointFromGlobal(global);
   result.locationInWindow = result.window ? result.window->convertPointFromScreen(onScreen) : onScreen;
   return result;
