@@ -128,6 +128,17 @@ TEST(Models, TheFirstItemOfARowSpeaksForTheOthers)
   EXPECT_EQ(modelObjectOfIndex(model.index(0, 1))->valueForKey("id").text, "8");
 }
 
+TEST(Models, ANumberThatTheNextRowSharesIdentifiesNone)
+{
+  QStandardItemModel model(4, 1);
+  for (const int row : {0, 1, 2, 3})
+    model.setData(model.index(row, 0), row < 2 ? 0 : row, Qt::UserRole);
+  EXPECT_THAT(modelObjectOfIndex(model.index(0, 0)), IsNull());
+  EXPECT_THAT(modelObjectOfIndex(model.index(1, 0)), IsNull());
+  ASSERT_THAT(modelObjectOfIndex(model.index(2, 0)), NotNull());
+  EXPECT_EQ(modelObjectOfIndex(model.index(2, 0))->valueForKey("id").text, "2");
+}
+
 } // namespace
 
 } // namespace wayvane::qt

@@ -8,6 +8,7 @@
 #include <QScrollBar>
 #include <QStandardItemModel>
 #include <QTableView>
+#include <QTreeWidget>
 
 namespace wayvane::qt {
 
@@ -242,6 +243,34 @@ TEST_F(Tables, ACellLiesInTheTablesContents)
 }
 
 // Lists
+
+TEST_F(Tables, ATableInACellIsNamedByItsItemUnlessItHasAName)
+{
+  auto* list = new QListWidget;
+  widget().setIndexWidget(model().index(2, 1), list);
+  QCoreApplication::sendPostedEvents();
+  const auto view = viewForWidget(list);
+  EXPECT_EQ(view->accessibilityIdentifier(), "QTableView:2,1");
+  EXPECT_TRUE(view->accessibilityIdentifierEquals(SearchText("QTableView:2,1")));
+  EXPECT_FALSE(view->accessibilityIdentifierEquals(SearchText("QTableView:1,1")));
+  EXPECT_EQ(handle()->accessibilityIdentifier(), std::nullopt);
+  widget().setObjectName(QStringLiteral("tours"));
+  EXPECT_EQ(view->accessibilityIdentifier(), "tours:2,1");
+  list->setObjectName(QStringLiteral("huts"));
+  EXPECT_EQ(view->accessibilityIdentifier(), "huts");
+}
+
+TEST_F(Tables, ATableInABranchIsNamedByThePathToItsItem)
+{
+  auto* tree = add<QTreeWidget>(QRect(330, 30, 200, 200));
+  auto* region = new QTreeWidgetItem(tree, {QStringLiteral("Alps")});
+  auto* place = new QTreeWidgetItem(region, {QString()});
+  auto* list = new QListWidget;
+  tree->setItemWidget(place, 0, list);
+  tree->expandAll();
+  QCoreApplication::sendPostedEvents();
+  EXPECT_EQ(viewForWidget(list)->accessibilityIdentifier(), "QTreeWidget:0.0");
+}
 
 TEST_F(Tables, AListHasOneColumn)
 {

@@ -145,6 +145,16 @@ private:
   QPointer<QObject> object_;
 };
 
+/// What a row shares with the next one is a kind, a state or a mark, and tells no row from another.
+bool isSharedWithNeighbour(const QModelIndex& index, const QVariant& value)
+{
+  const auto isAt = [&](int row) {
+    const QModelIndex neighbour = index.sibling(row, index.column());
+    return neighbour.isValid() && neighbour.data(Qt::UserRole) == value;
+  };
+  return isAt(index.row() - 1) || isAt(index.row() + 1);
+}
+
 ModelObjectHandle underOneKey(const QString& key, const QVariant& value)
 {
   return std::make_shared<MapObject>(QVariantMap{{key, value}});
@@ -183,8 +193,13 @@ ModelObjectHandle modelObjectOf(const QVariant& value)
 ModelObjectHandle modelObjectOfIndex(const QModelIndex& index)
 {
   if (!index.isValid()) return nullptr;
-  QVariant value = index.data(Qt::UserRole);
-  if (!value.isValid()) value = index.siblingAtColumn(0).data(Qt::UserRole);
+  QModelIndex source = index;
+  QVariant value = source.data(Qt::UserRole);
+  if (!value.isValid()) {
+    source = index.siblingAtColumn(0);
+    value = source.data(Qt::UserRole);
+  }
+  if (isNumber(value) && isSharedWithNeighbour(source, value)) return nullptr;
   return modelObjectOf(value);
 }
 

@@ -27,6 +27,39 @@ const void* QtTableView::roleOfKind(ViewKind kind) const
   return QtControlView::roleOfKind(kind);
 }
 
+// Identifier
+
+namespace {
+
+/// "outer:2.0", by the rows of the model; with ",1" behind it for the second column.
+std::string nameByItem(const QAbstractItemView& outer, const QModelIndex& index)
+{
+  std::string rows = index.column() > 0 ? "," + std::to_string(index.column()) : std::string();
+  for (QModelIndex i = index; i.isValid() && i != outer.rootIndex(); i = i.parent())
+    rows = (i.parent().isValid() && i.parent() != outer.rootIndex() ? "." : ":") + std::to_string(i.row()) +
+           rows;
+  const auto view = viewForWidget(const_cast<QAbstractItemView*>(&outer));
+  return view->accessibilityIdentifier().value_or(view->className()) + rows;
+}
+
+} // namespace
+
+std::optional<std::string> QtTableView::accessibilityIdentifier() const
+{
+  if (auto given = QtControlView::accessibilityIdentifier()) return given;
+  const QAbstractItemView* view = itemView();
+  const QAbstractItemView* outer = view ? itemViewOfCell(*view) : nullptr;
+  const QModelIndex index = outer ? indexOfCell(*outer, *view) : QModelIndex();
+  return index.isValid() ? std::optional(nameByItem(*outer, index)) : std::nullopt;
+}
+
+bool QtTableView::accessibilityIdentifierEquals(const platform::SearchText& text) const
+{
+  if (QtControlView::accessibilityIdentifierEquals(text)) return true;
+  const QAbstractItemView* view = itemView();
+  return view && itemViewOfCell(*view) && accessibilityIdentifier() == text.utf8();
+}
+
 // Rows and columns
 
 int QtTableView::numberOfRows() const

@@ -13,6 +13,11 @@ class QtTableView : public QtControlView, private platform::TableView, private p
 public:
   using QtControlView::QtControlView;
 
+  /// Its own name; without one, for a view set on an item of another, the place of that item: of several
+  /// tables in a path only the first would be found again.
+  [[nodiscard]] std::optional<std::string> accessibilityIdentifier() const override;
+  [[nodiscard]] bool accessibilityIdentifierEquals(const platform::SearchText& text) const override;
+
   [[nodiscard]] platform::Rect bounds() const override;
   /// What is partly scrolled out of sight is cut off at the edge of the viewport.
   [[nodiscard]] platform::Rect convertRectToWindow(const platform::Rect& rect) const override;
