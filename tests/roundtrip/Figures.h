@@ -25,6 +25,7 @@ struct Tally {
 /// counts once, with the worst outcome.
 struct Figures {
   Tally asRecorded;
+  Tally inAnotherRun;
   Tally withoutIdentifiers;
   Tally withoutPlace;
   QMap<QString, Tally> byClue;
@@ -34,7 +35,8 @@ struct Figures {
   QStringList failures;
 };
 
-[[nodiscard]] Figures figuresOf(const QStringList& report);
+/// From the reports of the run that recorded, and of the one that replayed.
+[[nodiscard]] Figures figuresOf(const QStringList& recorded, const QStringList& replayed);
 
 /// The tables that docs/targeting.md shows, for programs by name.
 [[nodiscard]] QString tables(const QMap<QString, Figures>& programs);

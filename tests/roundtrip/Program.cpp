@@ -36,30 +36,46 @@ QString howItEnded(QProcess& process)
   return process.exitCode() == 0 ? QString() : QString("ended with %1").arg(process.exitCode());
 }
 
-} // namespace
+QStringList linesOf(const QString& path)
+{
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) return {};
+  return QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
+}
 
-Run run(const Program& program)
+Run run(const Program& program, const QDir& home, QProcessEnvironment environment)
 {
   if (!QFile::exists(program.path))
     return {"is not installed; packaging/debian-packages.sh foreign installs it", {}};
-  const QDir home(QDir::home().filePath(program.name));
-  const QString report = home.filePath("report");
-  auto environment = environmentIn(home);
   environment.insert("LD_PRELOAD", ROUNDTRIP_PROBE);
   environment.insert("WAYVANE_ROUNDTRIP", program.commands);
-  environment.insert("WAYVANE_ROUNDTRIP_REPORT", report);
+  environment.insert("WAYVANE_ROUNDTRIP_REPORT", home.filePath("report"));
+  environment.insert("WAYVANE_ROUNDTRIP_GUIDES", QDir::home().filePath(program.name));
 
   QProcess process;
   process.setProcessEnvironment(environment);
   process.setWorkingDirectory(home.path());
   process.setProcessChannelMode(QProcess::MergedChannels);
   process.start(program.path, {});
-  Run result{howItEnded(process), {}};
+  Run result{howItEnded(process), linesOf(home.filePath("report"))};
   if (!result.failure.isEmpty()) result.failure += "\n" + QString::fromUtf8(process.readAll());
-  QFile file(report);
-  if (file.open(QIODevice::ReadOnly))
-    result.report = QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
   return result;
+}
+
+} // namespace
+
+Run record(const Program& program)
+{
+  const QDir home(QDir::home().filePath(program.name));
+  return run(program, home, environmentIn(home));
+}
+
+Run replay(const Program& program)
+{
+  const QDir home(QDir::home().filePath(program.name + "-again"));
+  auto environment = environmentIn(home);
+  environment.insert("WAYVANE_ROUNDTRIP_REPLAY", "1");
+  return run(program, home, environment);
 }
 
 } // namespace roundtrip

@@ -19,7 +19,9 @@ struct Run {
   QStringList report;
 };
 
-/// Runs the program with the probe, in a home of its own, to its end.
-[[nodiscard]] Run run(const Program& program);
+/// Runs the program with the probe, in an empty home, to its end. The second run follows the guides that the
+/// first has left.
+[[nodiscard]] Run record(const Program& program);
+[[nodiscard]] Run replay(const Program& program);
 
 } // namespace roundtrip

@@ -31,13 +31,16 @@ protected:
 
   void expect(const Program& program, const Floor& floor)
   {
-    const auto done = run(program);
-    ASSERT_TRUE(done.failure.isEmpty()) << (program.path + " " + done.failure).toStdString();
-    const Figures figures = figuresOf(done.report);
+    const auto recorded = record(program);
+    ASSERT_TRUE(recorded.failure.isEmpty()) << (program.path + " " + recorded.failure).toStdString();
+    const auto replayed = replay(program);
+    ASSERT_TRUE(replayed.failure.isEmpty()) << (program.path + " " + replayed.failure).toStdString();
+    const Figures figures = figuresOf(recorded.report, replayed.report);
     programs_[program.name] = figures;
     EXPECT_TRUE(figures.failures.isEmpty()) << figures.failures.join("\n").toStdString();
     EXPECT_GE(figures.asRecorded.all(), floor.elements);
     EXPECT_GE(figures.asRecorded.share(), floor.same) << figures.misses.join("\n").toStdString();
+    EXPECT_GE(figures.inAnotherRun.share(), floor.same) << figures.misses.join("\n").toStdString();
     EXPECT_GE(figures.withoutIdentifiers.share(), floor.withoutIdentifiers);
     EXPECT_GE(figures.withoutPlace.share(), floor.withoutPlace);
   }

@@ -23,7 +23,8 @@
 
 /// Loaded into a program before it starts. Once the program's event loop runs and its windows have settled,
 /// it follows the commands in WAYVANE_ROUNDTRIP, one a line, and writes what it finds to the file
-/// WAYVANE_ROUNDTRIP_REPORT, one JSON object a line.
+/// WAYVANE_ROUNDTRIP_REPORT, one JSON object a line. Each walk leaves a guide of its name in the folder
+/// WAYVANE_ROUNDTRIP_GUIDES; with WAYVANE_ROUNDTRIP_REPLAY set it only follows the guide that is there.
 ///
 ///     install         lets Wayvane into the program, as the program itself would
 ///     translate NAME  takes the translations of titles from the program's tables of that name
@@ -38,8 +39,8 @@ namespace roundtrip {
 
 namespace {
 
-constexpr int kTick = 50;
-constexpr int kTicksOfRest = 8;
+constexpr int kTick = 40;
+constexpr int kTicksOfRest = 4;
 
 bool isNamed(const QString& caption, const QObject& object, const QString& name)
 {
@@ -193,9 +194,15 @@ private:
   bool walk(const QString& name)
   {
     if (!wayvane::qt::installPlatform()) return false;
-    for (QJsonObject element : roundTrip((report_.fileName() + ".wayvane").toStdString())) {
-      element["walk"] = name;
-      write(element);
+    const QString folder = qEnvironmentVariable("WAYVANE_ROUNDTRIP_GUIDES");
+    const std::string guide = (folder + '/' + name + ".wayvane").toStdString();
+    const auto reports =
+        qEnvironmentVariableIsSet("WAYVANE_ROUNDTRIP_REPLAY") ? replay(guide) : roundTrip(guide);
+    for (qsizetype step = 0; step < reports.size(); ++step) {
+      QJsonObject report = reports[step];
+      report["walk"] = name;
+      report["step"] = step;
+      write(report);
     }
     return true;
   }

@@ -90,17 +90,22 @@ std::vector<Element> reachableElements()
 
 // Resolution
 
+std::vector<WVTargetDescriptor> targetsIn(const std::string& file)
+{
+  std::vector<WVTargetDescriptor> targets;
+  const auto guide = wayvane::WVGuide::guideWithContentsOfURL(file);
+  for (std::size_t i = 0; guide && i < guide->steps.size(); ++i)
+    targets.push_back(guide->steps[i].target);
+  return targets;
+}
+
 std::vector<WVTargetDescriptor> throughFile(const std::vector<Element>& elements, const std::string& file)
 {
   wayvane::WVGuide guide("Round trip");
   for (const Element& element : elements)
     guide.steps.push_back(wayvane::WVStep::stepWithTarget(element.target, "Click here"));
-  std::vector<WVTargetDescriptor> targets;
-  if (!guide.writeToURL(file)) return targets;
-  const auto read = wayvane::WVGuide::guideWithContentsOfURL(file);
-  for (std::size_t i = 0; read && i < read->steps.size(); ++i)
-    targets.push_back(read->steps[i].target);
-  return targets;
+  if (!guide.writeToURL(file)) return {};
+  return targetsIn(file);
 }
 
 // Of a drawn item playback shows the rectangle, so that is what has to be right.
@@ -125,13 +130,45 @@ QString outcome(const WVTargetDescriptor& target, const Element& element)
   return outcome(target, target.resolveInWindow(nullptr), element);
 }
 
+int placeAmongSiblings(const QWidget& widget)
+{
+  const QWidget* parent = widget.parentWidget();
+  const auto siblings =
+      parent ? parent->findChildren<const QWidget*>(Qt::FindDirectChildrenOnly) : QList<const QWidget*>();
+  return static_cast<int>(siblings.indexOf(&widget));
+}
+
 QString pathOf(const ViewHandle& view)
 {
-  if (!view) return {};
   QStringList parts;
-  for (const QWidget* w = wayvane::qt::widgetOf(*view); w; w = w->isWindow() ? nullptr : w->parentWidget())
-    parts.prepend(w->metaObject()->className() + (w->objectName().isEmpty() ? "" : "#" + w->objectName()));
+  const QWidget* w = view ? wayvane::qt::widgetOf(*view) : nullptr;
+  for (; w; w = w->isWindow() ? nullptr : w->parentWidget())
+    parts.prepend(QString("%1#%2[%3]")
+                      .arg(w->metaObject()->className(), w->objectName())
+                      .arg(w->isWindow() ? 0 : placeAmongSiblings(*w)));
   return parts.join("/");
+}
+
+// The same for the same element in every run of the program: its place among all widgets, and the rectangle
+// that playback shows.
+QString identity(const ViewHandle& view, const QRectF& global)
+{
+  const QWidget* widget = view ? wayvane::qt::widgetOf(*view) : nullptr;
+  if (!widget) return {};
+  const QRect rect = global.translated(-QPointF(widget->window()->mapToGlobal(QPoint()))).toRect();
+  return QString("%1 at %2,%3 %4x%5")
+      .arg(pathOf(view))
+      .arg(rect.x())
+      .arg(rect.y())
+      .arg(rect.width())
+      .arg(rect.height());
+}
+
+QRectF rectOf(const Element& element)
+{
+  if (element.isItem || !element.view) return QRectF(element.press.itemRect);
+  const auto inWindow = element.view->convertRectToWindow(element.view->bounds());
+  return wayvane::qt::globalFromScreenRect(element.press.window->convertRectToScreen(inWindow));
 }
 
 QJsonObject report(const Element& element, const WVTargetDescriptor& target)
@@ -139,7 +176,7 @@ QJsonObject report(const Element& element, const WVTargetDescriptor& target)
   const ViewHandle found = target.resolveInWindow(nullptr);
   const WVTargetDescriptor unnamed = withoutIdentifiers(target);
   return {{"number", static_cast<qint64>(element.number)},
-          {"element", pathOf(element.view)},
+          {"element", identity(element.view, rectOf(element))},
           {"place", toQString(target.hierarchyPath.value_or(""))},
           {"window", toQString(target.windowTitle.value_or(""))},
           {"described", toQString(target.displayDescription())},
@@ -160,6 +197,16 @@ QList<QJsonObject> roundTrip(const std::string& guideFile)
   QList<QJsonObject> reports;
   for (std::size_t i = 0; i < elements.size(); ++i)
     reports.push_back(report(elements[i], i < targets.size() ? targets[i] : WVTargetDescriptor()));
+  return reports;
+}
+
+QList<QJsonObject> replay(const std::string& guideFile)
+{
+  QList<QJsonObject> reports;
+  for (const auto& target : targetsIn(guideFile)) {
+    const QRectF rect = wayvane::qt::globalFromScreenRect(target.resolvedScreenRect());
+    reports.push_back({{"led to", identity(target.resolveInWindow(nullptr), rect)}});
+  }
   return reports;
 }
 
