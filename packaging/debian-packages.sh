@@ -9,8 +9,8 @@ packages_of() {
     test)    echo libgtest-dev libgmock-dev pkg-config xvfb xauth xdotool openbox ;;
     bench)   echo libbenchmark-dev ;;
     tools)   echo clang clang-tidy clang-format ccache ;;
-    # Programs that nobody here wrote, as hosts.
-    foreign) echo designer-qt6 linguist-qt6 assistant-qt6 ;;
+    # Programs that nobody here wrote, as hosts for the tests.
+    foreign) echo designer-qt6 focuswriter ;;
     *) echo "debian-packages.sh: no such group: $1" >&2; return 1 ;;
   esac
 }
@@ -57,6 +57,6 @@ install_missing() {
 
 if [ "${BASH_SOURCE[0]}" = "$0" ]; then
   set -euo pipefail
-  [ $# -gt 0 ] || set -- build qt test
+  [ $# -gt 0 ] || set -- build qt test foreign
   install_missing "$@"
 fi
