@@ -5,7 +5,9 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <csignal>
 #include <fstream>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -64,6 +66,57 @@ TEST_F(QtFiles, FailedWriteKeepsTheOldContentsAndTellsWhy)
   EXPECT_FALSE(files.writeAtomically(at("folder"), "x", &error));
   EXPECT_EQ(error.code, EISDIR);
   EXPECT_EQ(names(), std::vector<std::string>{"folder"});
+}
+
+/// Lets no file grow beyond so many bytes, as a disk would that is full.
+class FullDisk {
+public:
+  explicit FullDisk(rlim_t room)
+    : handler_(std::signal(SIGXFSZ, SIG_IGN))
+  {
+    ::getrlimit(RLIMIT_FSIZE, &before_);
+    const rlimit little{room, before_.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &little);
+  }
+
+  FullDisk(const FullDisk&) = delete;
+  FullDisk& operator=(const FullDisk&) = delete;
+
+  ~FullDisk()
+  {
+    ::setrlimit(RLIMIT_FSIZE, &before_);
+    std::signal(SIGXFSZ, handler_);
+  }
+
+private:
+  rlimit before_{};
+  void (*handler_)(int);
+};
+
+TEST_F(QtFiles, DiskThatFillsUpWhileWritingLeavesTheOldFileAndNothingElse)
+{
+  ASSERT_TRUE(files.writeAtomically(at("guide"), "old", &error));
+  {
+    const FullDisk disk(10'000);
+    EXPECT_FALSE(files.writeAtomically(at("guide"), std::string(50'000, 'n'), &error));
+  }
+  EXPECT_EQ(error.domain, "posix");
+  EXPECT_EQ(names(), std::vector<std::string>{"guide"});
+  EXPECT_EQ(files.read(at("guide"), 100, &error), "old");
+}
+
+TEST_F(QtFiles, NameLongerThanTheSystemAllowsIsRefused)
+{
+  EXPECT_FALSE(files.writeAtomically(at(std::string(300, 'n')), "x", &error));
+  EXPECT_EQ(error.code, ENAMETOOLONG);
+  EXPECT_EQ(names(), std::vector<std::string>{});
+}
+
+TEST_F(QtFiles, LongestNameThatTheSystemAllowsIsWritten)
+{
+  const std::string name(255, 'n');
+  EXPECT_TRUE(files.writeAtomically(at(name), "x", &error));
+  EXPECT_EQ(names(), std::vector<std::string>{name});
 }
 
 TEST_F(QtFiles, ReplacementKeepsPermissionsAndFollowsLinks)

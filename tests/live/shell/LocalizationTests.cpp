@@ -19,7 +19,8 @@ using testing::Optional;
 
 TEST(StringTables, TranslationSourceGivesFinishedTexts)
 {
-  const QByteArray bytes = R"(<?xml version="1.0"?><!DOCTYPE TS><TS version="2.1" language="de" sourcelanguage="en_US"><context>
+  const QByteArray bytes =
+      R"(<?xml version="1.0"?><!DOCTYPE TS><TS version="2.1" language="de" sourcelanguage="en_US"><context>
     <name>Main</name>
     <message><source>&amp;Open</source><translation>Ö&amp;ffnen</translation></message>
     <message><source>Late</source><translation type="unfinished">Spät</translation></message>
@@ -102,6 +103,26 @@ TEST_F(QtLocalization, NamesDoNotLeadOutOfTheFolders)
   put(QStringLiteral("Notes_de.ts"), source("Open", "Oeffnen"));
   qApp->setProperty("wv_translationFolders", QStringList{folder.filePath(QStringLiteral("below"))});
   EXPECT_EQ(localization.hostTable("../Notes", "de"), std::nullopt);
+}
+
+TEST_F(QtLocalization, TableOfAGigabyteIsNone)
+{
+  for (const char* name : {"de.lproj/Notes.strings", "Notes_fr.ts"}) {
+    put(QString::fromLatin1(name), "");
+    ASSERT_TRUE(QFile::resize(folder.filePath(QString::fromLatin1(name)), qint64{1} << 30));
+  }
+  EXPECT_EQ(localization.hostTable("Notes", "de"), std::nullopt);
+  EXPECT_EQ(localization.hostTable("Notes", "fr"), std::nullopt);
+}
+
+TEST_F(QtLocalization, TablesThatAreCutOffOrNoTextAreNone)
+{
+  put(QStringLiteral("de.lproj/Notes.strings"), "\"Open\" = \"Oeffnen\";\n\"Close\" = \"Schl");
+  put(QStringLiteral("fr.lproj/Notes.strings"), QByteArray("\xFF\xFE\x22\x00\x4F", 5));
+  put(QStringLiteral("it.lproj/Notes.strings"), "\"Open\" = \"Apr\xEC\";");
+  put(QStringLiteral("es.lproj/Notes.strings"), "<plist><dict><key>Open</key>");
+  for (const char* language : {"de", "fr", "it", "es"})
+    EXPECT_EQ(localization.hostTable("Notes", language), std::nullopt) << language;
 }
 
 TEST_F(QtLocalization, TextOfTheCurrentLanguageComesFromItsTable)
