@@ -116,11 +116,9 @@ void QtPopoverWidget::focusField(const std::string& identifier)
 
 bool QtPopoverWidget::isOutside(QObject* receiver, QPoint global) const
 {
-  // A field's own context menu, say, is not outside.
-  if (const QWidget* popup = QApplication::activePopupWidget()) {
-    for (const QWidget* widget = popup; widget; widget = widget->parentWidget())
-      if (widget == this) return false;
-  }
+  // An open menu or list gets all presses, wherever they are, and first has to be left. It may be a field's
+  // own, or the very one that the popover is about.
+  if (QApplication::activePopupWidget()) return false;
   if (receiver->isWidgetType()) return static_cast<QWidget*>(receiver)->window() != this;
   return receiver->isWindowType() && receiver != windowHandle() && !geometry().contains(global);
 }
