@@ -1,5 +1,6 @@
 #include <wayvane/platform/Path.h>
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -38,9 +39,9 @@ std::optional<Point> Path::currentPoint() const
   const Element& last = elements_.back();
   if (last.verb == Verb::Cubic) return last.points[2];
   if (last.verb != Verb::Close) return last.points[0];
-  for (auto element = elements_.rbegin(); element != elements_.rend(); ++element)
-    if (element->verb == Verb::Move) return element->points[0];
-  return std::nullopt;
+  const auto start = std::find_if(elements_.rbegin(), elements_.rend(),
+                                  [](const Element& element) { return element.verb == Verb::Move; });
+  return start == elements_.rend() ? std::nullopt : std::optional(start->points[0]);
 }
 
 void Path::moveTo(Point p)

@@ -109,16 +109,16 @@ Rect anchorInWindow(const Rect& screenRect, const WindowHandle& window, const pl
 
 } // namespace
 
-void WVAnnotationPopover::showForView(const platform::ViewHandle& view, Completion completion)
+void WVAnnotationPopover::showForView(const platform::ViewHandle& view, const Completion& completion)
 {
   const WindowHandle window = view ? view->window() : nullptr;
   Rect rect;
   if (window) rect = window->convertRectToScreen(view->convertRectToWindow(view->bounds()));
-  showAtScreenRect(rect, window, std::move(completion));
+  showAtScreenRect(rect, window, completion);
 }
 
 void WVAnnotationPopover::showAtScreenRect(const Rect& screenRect, const WindowHandle& forWindow,
-                                           Completion completion)
+                                           const Completion& completion)
 {
   platform::Platform* const platform = platform::Platform::current();
   const platform::ViewHandle content = forWindow ? forWindow->contentView() : nullptr;

@@ -25,11 +25,11 @@ public:
       std::function<void(const std::optional<std::string>& title, const std::optional<std::string>& message)>;
 
   /// Beside a view. A null view, or one without a window, cannot have a popover.
-  static void showForView(const platform::ViewHandle& view, Completion completion);
+  static void showForView(const platform::ViewHandle& view, const Completion& completion);
   /// Beside a rectangle of the screen, over `window`. One that lies outside of the window's content is moved
   /// to the nearest place inside.
   static void showAtScreenRect(const platform::Rect& screenRect, const platform::WindowHandle& forWindow,
-                               Completion completion);
+                               const Completion& completion);
 };
 
 } // namespace wayvane
