@@ -32,9 +32,9 @@ protected:
   void expect(const Program& program, const Floor& floor)
   {
     const auto recorded = record(program);
-    ASSERT_TRUE(recorded.failure.isEmpty()) << (program.path + " " + recorded.failure).toStdString();
+    ASSERT_TRUE(recorded.failure.isEmpty()) << (program.name + " " + recorded.failure).toStdString();
     const auto replayed = replay(program);
-    ASSERT_TRUE(replayed.failure.isEmpty()) << (program.path + " " + replayed.failure).toStdString();
+    ASSERT_TRUE(replayed.failure.isEmpty()) << (program.name + " " + replayed.failure).toStdString();
     const Figures figures = figuresOf(recorded.report, replayed.report);
     programs_[program.name] = figures;
     EXPECT_TRUE(figures.failures.isEmpty()) << figures.failures.join("\n").toStdString();
@@ -86,7 +86,7 @@ choose Form Settings...
 walk settings
 quit
 )"},
-         {140, 99, 80, 45});
+         {140, 99, 85, 45});
 }
 
 TEST_F(RoundTrip, FindsTheElementsOfAWritersEditorAgain)
@@ -119,7 +119,7 @@ tab Daily Goal
 walk goal
 quit
 )"},
-         {180, 99, 99, 50});
+         {180, 99, 99, 45});
 }
 
 } // namespace

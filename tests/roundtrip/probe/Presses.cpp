@@ -8,6 +8,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QHeaderView>
+#include <QMenuBar>
 #include <QRegion>
 #include <QWindow>
 
@@ -146,6 +147,12 @@ void pressItems(const WindowHandle& window, const QAbstractItemView& view, std::
 
 // Widgets
 
+/// A press on a menu bar is no step; the command that is chosen in the end is.
+bool opensMenus(const QWidget& widget)
+{
+  return qobject_cast<const QMenuBar*>(&widget) || widget.objectName() == "qt_menubar_ext_button";
+}
+
 void pressWidget(const WindowHandle& window, const QWidget& widget, std::vector<Press>& presses)
 {
   for (const QPoint point : pointsToTry(widget)) {
@@ -162,7 +169,7 @@ void pressAll(const WindowHandle& window, const QWidget& widget, std::vector<Pre
   const QAbstractItemView* holder = itemView(widget.parentWidget());
   if (const QAbstractItemView* items = itemView(&widget)) {
     pressItems(window, *items, presses);
-  } else if (!holder || holder->viewport() != &widget) {
+  } else if ((!holder || holder->viewport() != &widget) && !opensMenus(widget)) {
     pressWidget(window, widget, presses);
   }
   for (const QObject* child : widget.children())
@@ -192,7 +199,8 @@ std::vector<Press> possiblePresses()
   std::vector<Press> presses;
   for (const auto& window : wayvane::platform::Platform::current()->application.orderedWindows()) {
     const QWidget* top = wayvane::qt::widgetOf(*window);
-    if (top && !wayvane::qt::isOwnWidget(top) && takesInput(*top)) pressAll(window, *top, presses);
+    if (!top || wayvane::qt::isOwnWidget(top) || window->isUtilityPanel()) continue;
+    if (takesInput(*top)) pressAll(window, *top, presses);
   }
   return presses;
 }
