@@ -13,6 +13,11 @@ std::string QtBoxView::title() const
   return box ? toUtf8(withoutMnemonic(box->title())) : std::string();
 }
 
+QString QtBoxView::derivedLabel(const QWidget& widget) const
+{
+  return withoutMnemonic(static_cast<const QGroupBox&>(widget).title());
+}
+
 const void* QtBoxView::roleOfKind(ViewKind kind) const
 {
   if (kind == ViewKind::Box) return static_cast<const platform::Box*>(this);

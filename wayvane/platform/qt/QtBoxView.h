@@ -11,6 +11,7 @@ public:
 
 protected:
   [[nodiscard]] std::string title() const override;
+  [[nodiscard]] QString derivedLabel(const QWidget& widget) const override;
   [[nodiscard]] const void* roleOfKind(platform::ViewKind kind) const override;
 };
 
