@@ -16,7 +16,8 @@ Desktop::~Desktop()
   clock_.clear();
   for (const auto& window : std::vector(application_.made))
     window->close();
-  for (std::size_t i = 0; i < buried_.size(); ++i)
+  // More may be buried meanwhile.
+  for (std::size_t i = 0; i < buried_.size(); ++i) // NOLINT(modernize-loop-convert)
     std::shared_ptr<View>(buried_[i])->destroy();
   clock_.clear();
   if (platform::Platform::current() == platform_.get()) platform::Platform::setCurrent(previous_);

@@ -7,7 +7,6 @@ namespace wayvane {
 
 using platform::Menu;
 using platform::MenuHandle;
-using platform::MenuItem;
 using platform::MenuItemHandle;
 using platform::MenuItemSpec;
 using platform::Platform;

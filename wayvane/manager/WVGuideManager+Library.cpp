@@ -31,8 +31,8 @@ Identity identityOf(const platform::Application& application)
 
 bool isNewer(std::string_view version, std::string_view than)
 {
-  return compareNumerically(normalizedVersion(version, kVersionParts),
-                            normalizedVersion(than, kVersionParts)) > 0;
+  return std::is_gt(compareNumerically(normalizedVersion(version, kVersionParts),
+                                       normalizedVersion(than, kVersionParts)));
 }
 
 bool isForProgram(const WVGuide& guide, const Identity& program)
