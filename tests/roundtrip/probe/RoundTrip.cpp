@@ -17,7 +17,6 @@ namespace roundtrip {
 
 using wayvane::WVTargetDescriptor;
 using wayvane::platform::TableView;
-using wayvane::platform::View;
 using wayvane::platform::ViewHandle;
 using wayvane::qt::toQString;
 
