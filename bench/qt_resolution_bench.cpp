@@ -89,6 +89,15 @@ void ToolkitsFindChild(benchmark::State& state)
   searchWindow(state, [&](const QWidget& window) { return window.findChild<QWidget*>(name); });
 }
 
+/// What every search pays before it asks its first question.
+void SearchThatAsksNothing(benchmark::State& state)
+{
+  searchWindow(state, [](QWidget& window) {
+    return wayvane::firstView(*wayvane::qt::viewForWidget(&window),
+                              [](const wayvane::platform::View&) { return false; });
+  });
+}
+
 void SearchByIdentifier(benchmark::State& state)
 {
   const SearchText text("nowhere");
@@ -116,6 +125,7 @@ void SearchByTitle(benchmark::State& state)
 
 BENCHMARK(BareWalk)->Arg(1000)->Arg(10000);
 BENCHMARK(ToolkitsFindChild)->Arg(1000)->Arg(10000);
+BENCHMARK(SearchThatAsksNothing)->Arg(1000)->Arg(10000);
 BENCHMARK(SearchByIdentifier)->Arg(1000)->Arg(10000);
 BENCHMARK(SearchByAction)->Arg(1000)->Arg(10000);
 BENCHMARK(SearchByTitle)->Arg(1000)->Arg(10000);

@@ -60,8 +60,8 @@ private:
     EXPECT_FALSE(dead.accessibilityIdentifierEquals(SearchText("")));
     EXPECT_FALSE(dead.identifier());
     EXPECT_FALSE(dead.accessibilityLabel());
-    EXPECT_FALSE(dead.accessibilityLabelEquals(SearchText("Formerly")));
-    EXPECT_FALSE(dead.accessibilityLabelEquals(SearchText("")));
+    EXPECT_FALSE(dead.isTitled(SearchText("Formerly")));
+    EXPECT_FALSE(dead.isTitled(SearchText("")));
     EXPECT_FALSE(dead.toolTip());
     EXPECT_FALSE(dead.observedKeyPathForBinding("value"));
     EXPECT_FALSE(dead.hostString(HostProperty::GuideIdentifier));
@@ -122,11 +122,11 @@ TEST_F(DeadViews, AButtonAnswersNothing)
   stage().destroy(view);
   expectNothingFrom(*view);
   EXPECT_EQ(button->title(), "");
-  EXPECT_FALSE(button->titleEquals(SearchText("Plan")));
+  EXPECT_FALSE(view->isTitled(SearchText("Plan")));
   EXPECT_FALSE(button->isImageOnly());
   EXPECT_THAT(button->image(), IsNull());
   EXPECT_FALSE(control->action());
-  EXPECT_FALSE(control->actionEquals(SearchText("plan:")));
+  EXPECT_FALSE(view->sendsAction(SearchText("plan:")));
 }
 
 TEST_F(DeadViews, APopUpButtonAnswersNothing)

@@ -24,15 +24,15 @@ TEST_F(Roles, AButtonIsAControlWithATitleAndAnAction)
   const auto* button = view->as<platform::Button>();
   ASSERT_THAT(button, NotNull());
   EXPECT_EQ(button->title(), "Plan Tour");
-  EXPECT_TRUE(button->titleEquals(SearchText("Plan Tour")));
-  EXPECT_FALSE(button->titleEquals(SearchText("Plan tour")));
+  EXPECT_TRUE(view->isTitled(SearchText("Plan Tour")));
+  EXPECT_FALSE(view->isTitled(SearchText("Plan tour")));
   EXPECT_FALSE(button->isImageOnly());
   EXPECT_THAT(button->image(), IsNull());
   const auto* control = view->as<platform::Control>();
   ASSERT_THAT(control, NotNull());
   EXPECT_THAT(control->action(), Optional(std::string("planTour:")));
-  EXPECT_TRUE(control->actionEquals(SearchText("planTour:")));
-  EXPECT_FALSE(control->actionEquals(SearchText("planTour")));
+  EXPECT_TRUE(view->sendsAction(SearchText("planTour:")));
+  EXPECT_FALSE(view->sendsAction(SearchText("planTour")));
   EXPECT_FALSE(view->isKind(ViewKind::PopUpButton));
   EXPECT_THAT(view->as<platform::PopUpButton>(), IsNull());
 }
@@ -43,14 +43,14 @@ TEST_F(Roles, AButtonWithoutActionSendsNone)
   const auto* control = view->as<platform::Control>();
   ASSERT_THAT(control, NotNull());
   EXPECT_FALSE(control->action());
-  EXPECT_FALSE(control->actionEquals(SearchText("")));
+  EXPECT_FALSE(view->sendsAction(SearchText("")));
 }
 
 TEST_F(Roles, AnAmpersandInATitleIsPartOfIt)
 {
   const auto view = stage().addButton(window(), {}, {.title = "Huts & Peaks"});
   EXPECT_EQ(view->as<platform::Button>()->title(), "Huts & Peaks");
-  EXPECT_TRUE(view->as<platform::Button>()->titleEquals(SearchText("Huts & Peaks")));
+  EXPECT_TRUE(view->isTitled(SearchText("Huts & Peaks")));
 }
 
 TEST_F(Roles, AnIconButtonShowsItsPicture)

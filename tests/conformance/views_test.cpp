@@ -127,7 +127,7 @@ TEST_F(Views, TextsOfAnElementAreItsOwn)
   const auto view =
       stage().addPlain(window(), {.accessibilityLabel = "Höhenprofil", .toolTip = "Drag to zoom"});
   EXPECT_THAT(view->accessibilityLabel(), Optional(std::string("Höhenprofil")));
-  EXPECT_TRUE(view->accessibilityLabelEquals(SearchText("Höhenprofil")));
+  EXPECT_TRUE(view->isTitled(SearchText("Höhenprofil")));
   EXPECT_THAT(view->toolTip(), Optional(std::string("Drag to zoom")));
 }
 
@@ -138,7 +138,7 @@ TEST_F(Views, WhatAnElementWasNotGivenIsNothing)
   EXPECT_FALSE(view->accessibilityIdentifier());
   EXPECT_FALSE(view->accessibilityIdentifierEquals(SearchText("")));
   EXPECT_FALSE(view->accessibilityLabel());
-  EXPECT_FALSE(view->accessibilityLabelEquals(SearchText("")));
+  EXPECT_FALSE(view->isTitled(SearchText("")));
   EXPECT_FALSE(view->toolTip());
   EXPECT_FALSE(view->observedKeyPathForBinding("value"));
 }
@@ -214,9 +214,10 @@ TEST_F(Views, TextComparisonsAgreeWithTheTextsAllOverAWindow)
     EXPECT_EQ(view.accessibilityIdentifierEquals(SearchText(identifier.value_or("plan"))),
               identifier.has_value())
         << view.className();
-    EXPECT_EQ(view.accessibilityLabelEquals(SearchText(label.value_or("Plan it"))), label.has_value())
-        << view.className();
+    EXPECT_EQ(view.isTitled(SearchText(label.value_or("Plan it"))), label.has_value()) << view.className();
     EXPECT_TRUE(view.classNameEquals(view.className()));
+    EXPECT_TRUE(view.mayHave({platform::Feature::Identifier}) || !identifier) << view.className();
+    EXPECT_TRUE(view.mayHave({platform::Feature::TitleOrLabel}) || !label) << view.className();
     ++compared;
     return view.visitSubviews(compare);
   };

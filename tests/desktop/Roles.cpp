@@ -4,6 +4,7 @@
 
 namespace wayvane::sim {
 
+using platform::Feature;
 using platform::ViewKind;
 
 Text Control::action() const
@@ -11,9 +12,15 @@ Text Control::action() const
   return isAlive() ? action_ : std::nullopt;
 }
 
-bool Control::actionEquals(const platform::SearchText& name) const
+void Control::setAction(Text action)
 {
-  return isAlive() && action_ && *action_ == name.utf8();
+  if (action) addFeature(Feature::Action);
+  action_ = std::move(action);
+}
+
+bool Control::sendsAction(const platform::SearchText& action) const
+{
+  return isAlive() && action_ && *action_ == action.utf8();
 }
 
 const void* Control::role(ViewKind kind) const
@@ -33,6 +40,7 @@ Button::Button(Desktop& desktop, const ClassInfo& info, const ButtonOptions& opt
   , imageOnly_(options.imageOnly)
   , image_(options.image)
 {
+  addFeature(Feature::TitleOrLabel);
   applyClues(options);
   setAction(options.action);
   setOnClick(options.onClick);
@@ -49,9 +57,9 @@ std::string Button::title() const
   return isAlive() ? title_ : std::string();
 }
 
-bool Button::titleEquals(const platform::SearchText& text) const
+bool Button::isTitled(const platform::SearchText& text) const
 {
-  return isAlive() && title_ == text.utf8();
+  return isAlive() && (title_ == text.utf8() || Control::isTitled(text));
 }
 
 bool Button::isImageOnly() const

@@ -8,10 +8,9 @@ class Control : public View, public platform::Control {
 public:
   using View::View;
 
-  void setAction(Text action) { action_ = std::move(action); }
-
+  void setAction(Text action);
   [[nodiscard]] Text action() const override;
-  [[nodiscard]] bool actionEquals(const platform::SearchText& name) const override;
+  [[nodiscard]] bool sendsAction(const platform::SearchText& action) const override;
 
 protected:
   [[nodiscard]] const void* role(platform::ViewKind kind) const override;
@@ -29,7 +28,7 @@ public:
 
   void setImage(platform::ImageHandle image, bool imageOnly);
   [[nodiscard]] std::string title() const override;
-  [[nodiscard]] bool titleEquals(const platform::SearchText& text) const override;
+  [[nodiscard]] bool isTitled(const platform::SearchText& text) const override;
   [[nodiscard]] bool isImageOnly() const override;
   [[nodiscard]] platform::ImageHandle image() const override;
 

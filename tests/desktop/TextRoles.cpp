@@ -43,6 +43,7 @@ TextView::TextView(Desktop& desktop, const ClassInfo& info, const TextViewOption
   , fieldEditor_(options.fieldEditor)
   , delegate_(options.delegate)
 {
+  if (fieldEditor_) addFeature(platform::Feature::FieldEditor);
   applyClues(options);
   if (options.valueBinding) setBinding("value", *options.valueBinding);
 }

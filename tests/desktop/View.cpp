@@ -9,7 +9,8 @@ using platform::Rect;
 using platform::ViewKind;
 
 View::View(Desktop& desktop, const ClassInfo& info, const Rect& frame, bool flipped)
-  : desktop_(&desktop)
+  : platform::View(platform::Features{})
+  , desktop_(&desktop)
   , class_(&info)
   , frame_(frame)
   , flipped_(flipped)
@@ -23,6 +24,7 @@ View::~View()
 
 void View::adoptView(std::shared_ptr<View> child)
 {
+  addFeature(platform::Feature::Subviews);
   child->parent_ = this;
   child->moveToWindow(window_);
   children_.push_back(std::move(child));

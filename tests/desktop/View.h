@@ -64,16 +64,13 @@ public:
 
   void setHidden(bool hidden) { hidden_ = hidden; }
 
-  void setIdentifier(Text identifier) { identifier_ = std::move(identifier); }
-
-  void setAccessibilityIdentifier(Text identifier) { accessibilityIdentifier_ = std::move(identifier); }
-
-  void setAccessibilityLabel(Text label) { accessibilityLabel_ = std::move(label); }
+  void setIdentifier(Text identifier);
+  void setAccessibilityIdentifier(Text identifier);
+  void setAccessibilityLabel(Text label);
 
   void setToolTip(Text toolTip) { toolTip_ = std::move(toolTip); }
 
-  void setBinding(const std::string& binding, const std::string& keyPath) { bindings_[binding] = keyPath; }
-
+  void setBinding(const std::string& binding, const std::string& keyPath);
   void setHostString(platform::HostProperty property, std::string value);
   void setHostNumber(platform::HostProperty property, double value);
 
@@ -127,9 +124,12 @@ public:
   [[nodiscard]] bool accessibilityIdentifierEquals(const platform::SearchText& text) const override;
   [[nodiscard]] Text identifier() const override;
   [[nodiscard]] Text accessibilityLabel() const override;
-  [[nodiscard]] bool accessibilityLabelEquals(const platform::SearchText& text) const override;
   [[nodiscard]] Text toolTip() const override;
   [[nodiscard]] Text observedKeyPathForBinding(std::string_view binding) const override;
+  [[nodiscard]] bool observedKeyPathEquals(std::string_view binding,
+                                           const platform::SearchText& keyPath) const override;
+  [[nodiscard]] bool sendsAction(const platform::SearchText& action) const override;
+  [[nodiscard]] bool isTitled(const platform::SearchText& text) const override;
   [[nodiscard]] Text hostString(platform::HostProperty property) const override;
   [[nodiscard]] std::optional<double> hostNumber(platform::HostProperty property) const override;
   [[nodiscard]] bool respondsToHover() const override;
@@ -172,9 +172,9 @@ protected:
   template <class Options>
   void applyClues(const Options& options)
   {
-    identifier_ = options.identifier;
-    accessibilityIdentifier_ = options.accessibilityIdentifier;
-    accessibilityLabel_ = options.accessibilityLabel;
+    setIdentifier(options.identifier);
+    setAccessibilityIdentifier(options.accessibilityIdentifier);
+    setAccessibilityLabel(options.accessibilityLabel);
     toolTip_ = options.toolTip;
   }
 

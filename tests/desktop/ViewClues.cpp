@@ -3,8 +3,33 @@
 
 namespace wayvane::sim {
 
+using platform::Feature;
 using platform::HostProperty;
 using platform::HoverEvent;
+
+void View::setIdentifier(Text identifier)
+{
+  if (identifier) addFeature(Feature::Identifier);
+  identifier_ = std::move(identifier);
+}
+
+void View::setAccessibilityIdentifier(Text identifier)
+{
+  if (identifier) addFeature(Feature::Identifier);
+  accessibilityIdentifier_ = std::move(identifier);
+}
+
+void View::setAccessibilityLabel(Text label)
+{
+  if (label) addFeature(Feature::TitleOrLabel);
+  accessibilityLabel_ = std::move(label);
+}
+
+void View::setBinding(const std::string& binding, const std::string& keyPath)
+{
+  addFeature(Feature::Bindings);
+  bindings_[binding] = keyPath;
+}
 
 Text View::accessibilityIdentifier() const
 {
@@ -28,9 +53,14 @@ Text View::accessibilityLabel() const
   return alive_ ? accessibilityLabel_ : std::nullopt;
 }
 
-bool View::accessibilityLabelEquals(const platform::SearchText& text) const
+bool View::isTitled(const platform::SearchText& text) const
 {
   return alive_ && accessibilityLabel_ && *accessibilityLabel_ == text.utf8();
+}
+
+bool View::sendsAction(const platform::SearchText&) const
+{
+  return false;
 }
 
 Text View::toolTip() const
@@ -44,13 +74,21 @@ Text View::observedKeyPathForBinding(std::string_view binding) const
   return alive_ && found != bindings_.end() ? Text(found->second) : std::nullopt;
 }
 
+bool View::observedKeyPathEquals(std::string_view binding, const platform::SearchText& keyPath) const
+{
+  const auto found = bindings_.find(binding);
+  return alive_ && found != bindings_.end() && found->second == keyPath.utf8();
+}
+
 void View::setHostString(HostProperty property, std::string value)
 {
+  addFeature(Feature::HostAnswers);
   hostStrings_[property] = std::move(value);
 }
 
 void View::setHostNumber(HostProperty property, double value)
 {
+  addFeature(Feature::HostAnswers);
   hostNumbers_[property] = value;
 }
 

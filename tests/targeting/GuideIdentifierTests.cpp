@@ -7,6 +7,18 @@ using platform::HostProperty;
 using platform::SearchText;
 using GuideIdentifier = Targeting;
 
+namespace {
+
+/// As a search asks.
+bool isIdentifiedBy(const platform::View& view, std::string_view identifier)
+{
+  const SearchText text(identifier);
+  const IdentifierQuery query(text);
+  return view.mayHave(query.features()) && query.matches(view);
+}
+
+} // namespace
+
 TEST_F(GuideIdentifier, PlainViewIsNamedByItsAccessibilityIdentifier)
 {
   EXPECT_EQ(wv_guideIdentifier(content.addView("NSView", {.accessibilityIdentifier = "map"})), "map");
@@ -97,30 +109,30 @@ TEST_F(GuideIdentifier, HostNamesItsOwnView)
 TEST_F(GuideIdentifier, ViewIsIdentifiedByItsAccessibilityIdentifier)
 {
   const auto& view = content.addView("NSView", {.accessibilityIdentifier = "map"});
-  EXPECT_TRUE(wv_isIdentifiedBy(view, SearchText("map")));
-  EXPECT_FALSE(wv_isIdentifiedBy(view, SearchText("ma")));
-  EXPECT_FALSE(wv_isIdentifiedBy(view, SearchText("maps")));
+  EXPECT_TRUE(isIdentifiedBy(view, "map"));
+  EXPECT_FALSE(isIdentifiedBy(view, "ma"));
+  EXPECT_FALSE(isIdentifiedBy(view, "maps"));
 }
 
 TEST_F(GuideIdentifier, BoundTextFieldIsIdentifiedByItsKeyPathAndByItsIdentifier)
 {
   const auto& field = content.addTextField({.valueBinding = "name", .accessibilityIdentifier = "field"});
-  EXPECT_TRUE(wv_isIdentifiedBy(field, SearchText("binding:value:name")));
-  EXPECT_TRUE(wv_isIdentifiedBy(field, SearchText("field")));
-  EXPECT_FALSE(wv_isIdentifiedBy(field, SearchText("binding:value:")));
-  EXPECT_FALSE(wv_isIdentifiedBy(field, SearchText("binding:value:name2")));
+  EXPECT_TRUE(isIdentifiedBy(field, "binding:value:name"));
+  EXPECT_TRUE(isIdentifiedBy(field, "field"));
+  EXPECT_FALSE(isIdentifiedBy(field, "binding:value:"));
+  EXPECT_FALSE(isIdentifiedBy(field, "binding:value:name2"));
 }
 
 TEST_F(GuideIdentifier, TextFieldBoundToAnEmptyKeyPathIsNotIdentifiedByThePrefixAlone)
 {
-  EXPECT_FALSE(wv_isIdentifiedBy(content.addTextField({.valueBinding = ""}), SearchText("binding:value:")));
+  EXPECT_FALSE(isIdentifiedBy(content.addTextField({.valueBinding = ""}), "binding:value:"));
 }
 
 TEST_F(GuideIdentifier, BoundButtonIsNotIdentifiedByItsKeyPath)
 {
   auto& button = content.addButton();
   button.setBinding("value", "isOpen");
-  EXPECT_FALSE(wv_isIdentifiedBy(button, SearchText("binding:value:isOpen")));
+  EXPECT_FALSE(isIdentifiedBy(button, "binding:value:isOpen"));
 }
 
 TEST_F(GuideIdentifier, FieldEditorIsIdentifiedByItsFieldAndByItsOwnIdentifier)
@@ -128,17 +140,17 @@ TEST_F(GuideIdentifier, FieldEditorIsIdentifiedByItsFieldAndByItsOwnIdentifier)
   const auto& field = content.addTextField({.accessibilityIdentifier = "name"});
   const auto& editor = content.addTextView(
       {.fieldEditor = true, .delegate = field.handle(), .accessibilityIdentifier = "editor"});
-  EXPECT_TRUE(wv_isIdentifiedBy(editor, SearchText("name")));
-  EXPECT_TRUE(wv_isIdentifiedBy(editor, SearchText("editor")));
-  EXPECT_FALSE(wv_isIdentifiedBy(editor, SearchText("other")));
+  EXPECT_TRUE(isIdentifiedBy(editor, "name"));
+  EXPECT_TRUE(isIdentifiedBy(editor, "editor"));
+  EXPECT_FALSE(isIdentifiedBy(editor, "other"));
 }
 
 TEST_F(GuideIdentifier, ViewNamedByTheHostIsIdentifiedByThatNameInsteadOfItsKeyPath)
 {
   auto& field = content.addTextField({.valueBinding = "name"});
   field.setHostString(HostProperty::GuideIdentifier, "nameOfTour");
-  EXPECT_TRUE(wv_isIdentifiedBy(field, SearchText("nameOfTour")));
-  EXPECT_FALSE(wv_isIdentifiedBy(field, SearchText("binding:value:name")));
+  EXPECT_TRUE(isIdentifiedBy(field, "nameOfTour"));
+  EXPECT_FALSE(isIdentifiedBy(field, "binding:value:name"));
 }
 
 // Meaning

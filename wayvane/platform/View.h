@@ -3,6 +3,7 @@
 #include <wayvane/platform/FunctionRef.h>
 #include <wayvane/platform/Geometry.h>
 #include <wayvane/platform/SearchText.h>
+#include <wayvane/platform/ViewFeatures.h>
 
 #include <cstdint>
 #include <functional>
@@ -90,6 +91,10 @@ class View {
 public:
   virtual ~View() = default;
 
+  /// False when the view certainly has none of these. Reads a word of the view and asks nobody: a search does
+  /// so before it puts a question to each of ten thousand views, most of which have nothing to answer.
+  [[nodiscard]] bool mayHave(Features features) const { return features_.hasAnyOf(features); }
+
   /// A handle to this element; for the view of a dead handle, a null handle.
   [[nodiscard]] virtual ViewHandle handle() const = 0;
   [[nodiscard]] virtual bool isAlive() const = 0;
@@ -138,11 +143,16 @@ public:
   [[nodiscard]] virtual std::optional<std::string> identifier() const { return accessibilityIdentifier(); }
 
   [[nodiscard]] virtual std::optional<std::string> accessibilityLabel() const = 0;
-  [[nodiscard]] virtual bool accessibilityLabelEquals(const SearchText& text) const = 0;
   [[nodiscard]] virtual std::optional<std::string> toolTip() const = 0;
   /// The observed key path of the named binding ("value", "enabled", ...).
   [[nodiscard]] virtual std::optional<std::string>
   observedKeyPathForBinding(std::string_view binding) const = 0;
+  [[nodiscard]] virtual bool observedKeyPathEquals(std::string_view binding,
+                                                   const SearchText& keyPath) const = 0;
+  /// Whether the element is a control that sends the action.
+  [[nodiscard]] virtual bool sendsAction(const SearchText& action) const = 0;
+  /// Whether the element is a button with that title, or has that accessibility label.
+  [[nodiscard]] virtual bool isTitled(const SearchText& text) const = 0;
   /// Costs next to nothing for views that carry no such answer.
   [[nodiscard]] virtual std::optional<std::string> hostString(HostProperty property) const = 0;
   [[nodiscard]] virtual std::optional<double> hostNumber(HostProperty property) const = 0;
@@ -163,8 +173,20 @@ public:
   }
 
 protected:
+  /// A view that may have everything, as one must that does not follow what its element gets.
+  View() = default;
+
+  explicit View(Features features)
+    : features_(features)
+  {}
+
+  void addFeature(Feature feature) { features_.add(feature); }
+
   /// A pointer to the role interface that belongs to `kind`, as `const Role*` converted to `const void*`.
   [[nodiscard]] virtual const void* role(ViewKind kind) const = 0;
+
+private:
+  Features features_ = Features::all();
 };
 
 /// Whether both handles stand for the same living element.

@@ -13,7 +13,6 @@ public:
   virtual ~Control() = default;
   /// The name of the action the control sends, for instance "save:"; nothing when it has none.
   [[nodiscard]] virtual std::optional<std::string> action() const = 0;
-  [[nodiscard]] virtual bool actionEquals(const SearchText& name) const = 0;
 };
 
 class Button {
@@ -22,7 +21,6 @@ public:
   virtual ~Button() = default;
   /// Without keyboard mnemonics; empty when there is none.
   [[nodiscard]] virtual std::string title() const = 0;
-  [[nodiscard]] virtual bool titleEquals(const SearchText& text) const = 0;
   [[nodiscard]] virtual bool isImageOnly() const = 0;
   /// Null when it has none.
   [[nodiscard]] virtual ImageHandle image() const = 0;

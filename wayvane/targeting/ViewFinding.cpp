@@ -1,33 +1,18 @@
-#include <wayvane/platform/ViewRoles.h>
 #include <wayvane/targeting/HierarchyPath.h>
 #include <wayvane/targeting/ViewFinding.h>
 #include <wayvane/targeting/ViewProperties.h>
 
 namespace wayvane {
 
+using platform::Feature;
 using platform::SearchText;
 using platform::View;
 using platform::ViewHandle;
 
-namespace {
-
-bool sendsAction(const View& view, const SearchText& action)
-{
-  const auto* control = view.as<platform::Control>();
-  return control && control->actionEquals(action);
-}
-
-bool isTitled(const View& view, const SearchText& title)
-{
-  const auto* button = view.as<platform::Button>();
-  return (button && button->titleEquals(title)) || view.accessibilityLabelEquals(title);
-}
-
-} // namespace
-
 ViewHandle wv_viewWithAccessibilityIdentifier(const View& root, const SearchText& identifier)
 {
-  return firstView(root, [&](const View& view) { return wv_isIdentifiedBy(view, identifier); });
+  const IdentifierQuery query(identifier);
+  return firstView(root, query.features(), [&](const View& view) { return query.matches(view); });
 }
 
 ViewHandle wv_viewOfClass(const View& root, platform::ViewClass viewClass)
@@ -42,12 +27,12 @@ ViewHandle wv_viewOfKind(const View& root, platform::ViewKind kind)
 
 ViewHandle wv_viewWithAction(const View& root, const SearchText& action)
 {
-  return firstView(root, [&](const View& view) { return sendsAction(view, action); });
+  return firstView(root, {Feature::Action}, [&](const View& view) { return view.sendsAction(action); });
 }
 
 ViewHandle wv_viewWithTitle(const View& root, const SearchText& title)
 {
-  return firstView(root, [&](const View& view) { return isTitled(view, title); });
+  return firstView(root, {Feature::TitleOrLabel}, [&](const View& view) { return view.isTitled(title); });
 }
 
 ViewHandle wv_viewAtHierarchyPath(const View& root, std::string_view path)
@@ -58,7 +43,7 @@ ViewHandle wv_viewAtHierarchyPath(const View& root, std::string_view path)
 void collectViewsWithAction(const View& root, const SearchText& action, std::vector<ViewHandle>& list)
 {
   PreOrderWalk([&](const View& view) {
-    if (sendsAction(view, action)) list.push_back(view.handle());
+    if (view.mayHave({Feature::Action}) && view.sendsAction(action)) list.push_back(view.handle());
     return true;
   }).run(root);
 }

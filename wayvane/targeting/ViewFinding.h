@@ -31,6 +31,7 @@ private:
   bool visit(const platform::View& view, int levelsLeft)
   {
     if (!visitor_(view)) return false;
+    if (!view.mayHave({platform::Feature::Subviews})) return true;
     if (levelsLeft == 0) return visitWithoutNesting(view);
     return view.visitSubviews(
         [this, levelsLeft](const platform::View& subview) { return visit(subview, levelsLeft - 1); });
@@ -74,6 +75,15 @@ template <class Predicate>
     return false;
   }).run(root);
   return found;
+}
+
+/// The same, asking only the views that may have one of the features.
+template <class Predicate>
+[[nodiscard]] platform::ViewHandle firstView(const platform::View& root, platform::Features features,
+                                             Predicate predicate)
+{
+  return firstView(root,
+                   [&](const platform::View& view) { return view.mayHave(features) && predicate(view); });
 }
 
 /// By `wv_guideIdentifier` or by the accessibility identifier.

@@ -6,6 +6,7 @@
 
 namespace wayvane {
 
+using platform::Feature;
 using platform::HostProperty;
 using platform::View;
 using platform::ViewKind;
@@ -69,12 +70,15 @@ bool isShownAsIcon(const View& view)
   return button && button->isImageOnly() && button->image();
 }
 
+bool isText(const View& view)
+{
+  return view.as<platform::TextField>() || view.as<platform::TextView>();
+}
+
 Text keyPathOfValue(const View& view)
 {
   auto keyPath = view.observedKeyPathForBinding("value");
-  if (!keyPath || keyPath->empty()) return std::nullopt;
-  const bool isText = view.as<platform::TextField>() || view.as<platform::TextView>();
-  return isText ? std::move(keyPath) : std::nullopt;
+  return keyPath && !keyPath->empty() && isText(view) ? std::move(keyPath) : std::nullopt;
 }
 
 // The text field that borrowed this view as its editor.
@@ -179,14 +183,29 @@ std::optional<std::string> wv_guideIdentifier(const View& view)
   return guideIdentifier(view, kMostBorrowedEditors);
 }
 
-bool wv_isIdentifiedBy(const View& view, const platform::SearchText& text)
+IdentifierQuery::IdentifierQuery(const platform::SearchText& text)
+  : text_(text)
+  , otherNames_{Feature::HostAnswers, Feature::FieldEditor}
 {
-  if (view.accessibilityIdentifierEquals(text)) return true;
-  if (const auto given = view.hostString(HostProperty::GuideIdentifier)) return *given == text.utf8();
-  if (isFieldEditor(view)) return wv_guideIdentifier(view) == text.utf8();
-  if (!text.utf8().starts_with(kBoundValuePrefix)) return false;
-  const auto keyPath = keyPathOfValue(view);
-  return keyPath && *keyPath == text.utf8().substr(kBoundValuePrefix.size());
+  const auto utf8 = text.utf8();
+  if (utf8.starts_with(kBoundValuePrefix) && utf8 != kBoundValuePrefix) {
+    keyPathOfValue_.emplace(utf8.substr(kBoundValuePrefix.size()));
+    otherNames_.add(Feature::Bindings);
+  }
+  features_ = otherNames_;
+  features_.add(Feature::Identifier);
+}
+
+bool IdentifierQuery::matches(const View& view) const
+{
+  return view.accessibilityIdentifierEquals(text_) || (view.mayHave(otherNames_) && matchesOtherName(view));
+}
+
+bool IdentifierQuery::matchesOtherName(const View& view) const
+{
+  if (const auto given = view.hostString(HostProperty::GuideIdentifier)) return *given == text_.utf8();
+  if (isFieldEditor(view)) return wv_guideIdentifier(view) == text_.utf8();
+  return keyPathOfValue_ && isText(view) && view.observedKeyPathEquals("value", *keyPathOfValue_);
 }
 
 bool WVIsMeaningfulIdentifier(const std::optional<std::string>& identifier)

@@ -44,9 +44,26 @@ inline constexpr std::string_view kButtonIconToken = "[ICON:button]";
 /// The identifier the view is named by: for a text bound to a key path "binding:value:" and that path, for
 /// the editor of a text field the field's, otherwise the accessibility identifier.
 [[nodiscard]] std::optional<std::string> wv_guideIdentifier(const platform::View& view);
-/// Whether `wv_guideIdentifier` or the accessibility identifier is `text`. For walks over every view: builds
-/// no texts.
-[[nodiscard]] bool wv_isIdentifiedBy(const platform::View& view, const platform::SearchText& text);
+
+/// Asks view after view whether `wv_guideIdentifier` or the accessibility identifier is a text, and builds no
+/// texts while it does. Borrows the text. A view that has none of the features need not be asked.
+class IdentifierQuery {
+public:
+  explicit IdentifierQuery(const platform::SearchText& text);
+
+  [[nodiscard]] platform::Features features() const { return features_; }
+
+  [[nodiscard]] bool matches(const platform::View& view) const;
+
+private:
+  [[nodiscard]] bool matchesOtherName(const platform::View& view) const;
+
+  const platform::SearchText& text_;
+  /// Where the text is one that names a view by its binding.
+  std::optional<platform::SearchText> keyPathOfValue_;
+  platform::Features otherNames_;
+  platform::Features features_;
+};
 
 /// Whether an identifier is worth keeping: not empty, and not one that the toolkit made up ("_NS...").
 [[nodiscard]] bool WVIsMeaningfulIdentifier(const std::optional<std::string>& identifier);

@@ -44,14 +44,15 @@ std::optional<Prepared> prepared(const std::optional<std::string>& text)
 
 struct Binding {
   std::string_view name;
-  std::string_view keyPath;
+  SearchText keyPath;
 };
 
 std::optional<Binding> bindingFromInfo(const std::optional<std::string>& info)
 {
   const auto colon = info ? info->find(':') : std::string::npos;
   if (colon == std::string::npos) return std::nullopt;
-  return Binding{std::string_view(*info).substr(0, colon), std::string_view(*info).substr(colon + 1)};
+  const std::string_view text = *info;
+  return Binding{text.substr(0, colon), SearchText(text.substr(colon + 1))};
 }
 
 /// One window, as the strategies look at it.
@@ -117,8 +118,8 @@ private:
   [[nodiscard]] ViewHandle byBinding(const Place& place) const
   {
     if (!binding_) return nullptr;
-    return firstView(place.content, [this](const View& view) {
-      return view.observedKeyPathForBinding(binding_->name) == binding_->keyPath;
+    return firstView(place.content, {platform::Feature::Bindings}, [this](const View& view) {
+      return view.observedKeyPathEquals(binding_->name, binding_->keyPath);
     });
   }
 

@@ -18,10 +18,10 @@ TEST_F(SimRoles, AButtonTellsTitleImageAndAction)
   Button& share =
       content.addButton({.title = "Share", .action = "share:", .imageOnly = true, .image = image});
   EXPECT_EQ(share.title(), "Share");
-  EXPECT_TRUE(share.titleEquals(platform::SearchText("Share")));
+  EXPECT_TRUE(share.isTitled(platform::SearchText("Share")));
   EXPECT_TRUE(share.isImageOnly());
   EXPECT_EQ(share.image(), image);
-  EXPECT_TRUE(share.actionEquals(platform::SearchText("share:")));
+  EXPECT_TRUE(share.sendsAction(platform::SearchText("share:")));
 }
 
 TEST_F(SimRoles, APopUpButtonTellsItsSelectedItem)

@@ -167,12 +167,13 @@ TEST_F(Classes, AnElementIsItselfHoweverItIsAsked)
   auto* button = add<QPushButton>(kPlace);
   auto* other = add<QPushButton>(kPlace);
   const auto view = viewForWidget(button);
-  visitWidget(*button, [&](const platform::View& visited) {
-    EXPECT_TRUE(visited.isSame(*view));
+  const bool wentPast = view->superview()->visitSubviews([&](const platform::View& visited) {
+    if (!visited.isSame(*view)) return true;
     EXPECT_TRUE(view->isSame(visited));
     EXPECT_TRUE(isSameView(visited.handle(), view));
-    return true;
+    return false;
   });
+  EXPECT_FALSE(wentPast);
   EXPECT_FALSE(view->isSame(*viewForWidget(other)));
 }
 

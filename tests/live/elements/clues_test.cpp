@@ -65,7 +65,7 @@ TEST_F(Clues, TheAccessibleNameIsTheLabel)
   EXPECT_FALSE(view->accessibilityLabel());
   widget->setAccessibleName(QStringLiteral("Elevation"));
   EXPECT_THAT(view->accessibilityLabel(), Optional(std::string("Elevation")));
-  EXPECT_TRUE(view->accessibilityLabelEquals(SearchText("Elevation")));
+  EXPECT_TRUE(view->isTitled(SearchText("Elevation")));
 }
 
 TEST_F(Clues, AFieldIsLabelledByItsBuddy)
@@ -75,8 +75,8 @@ TEST_F(Clues, AFieldIsLabelledByItsBuddy)
   label->setBuddy(field);
   const auto view = viewForWidget(field);
   EXPECT_THAT(view->accessibilityLabel(), Optional(std::string("Name")));
-  EXPECT_TRUE(view->accessibilityLabelEquals(SearchText("Name")));
-  EXPECT_FALSE(view->accessibilityLabelEquals(SearchText("&Name:")));
+  EXPECT_TRUE(view->isTitled(SearchText("Name")));
+  EXPECT_FALSE(view->isTitled(SearchText("&Name:")));
   field->setAccessibleName(QStringLiteral("Family name"));
   EXPECT_THAT(view->accessibilityLabel(), Optional(std::string("Family name")));
 }

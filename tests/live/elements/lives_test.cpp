@@ -58,7 +58,7 @@ private:
     EXPECT_FALSE(dead.accessibilityIdentifier());
     EXPECT_FALSE(dead.accessibilityIdentifierEquals(SearchText("formerly")));
     EXPECT_FALSE(dead.accessibilityLabel());
-    EXPECT_FALSE(dead.accessibilityLabelEquals(SearchText("Formerly")));
+    EXPECT_FALSE(dead.isTitled(SearchText("Formerly")));
     EXPECT_FALSE(dead.toolTip());
     EXPECT_FALSE(dead.observedKeyPathForBinding("value"));
     EXPECT_FALSE(dead.hostString(platform::HostProperty::GuideIdentifier));
@@ -140,7 +140,7 @@ TEST_F(Lives, TheRolesOfDeletedWidgetsAnswerNothing)
   const auto* asBox = views[5]->as<platform::Box>();
   closeWindow();
   EXPECT_EQ(asButton->title(), "");
-  EXPECT_FALSE(asButton->titleEquals(SearchText("Plan")));
+  EXPECT_FALSE(views[0]->isTitled(SearchText("Plan")));
   EXPECT_FALSE(asButton->isImageOnly());
   EXPECT_THAT(asButton->image(), IsNull());
   EXPECT_FALSE(asControl->action());

@@ -83,10 +83,11 @@ TEST_F(Roles, EveryClassHasTheKindsOfItsRole)
 
 TEST_F(Roles, AButtonIsReadWithoutItsMnemonic)
 {
-  const auto& button = as<platform::Button>(add<QPushButton>(kPlace, QStringLiteral("&Plan && Go")));
+  const auto view = viewForWidget(add<QPushButton>(kPlace, QStringLiteral("&Plan && Go")));
+  const auto& button = *view->as<platform::Button>();
   EXPECT_EQ(button.title(), "Plan & Go");
-  EXPECT_TRUE(button.titleEquals(SearchText("Plan & Go")));
-  EXPECT_FALSE(button.titleEquals(SearchText("&Plan && Go")));
+  EXPECT_TRUE(view->isTitled(SearchText("Plan & Go")));
+  EXPECT_FALSE(view->isTitled(SearchText("&Plan && Go")));
   EXPECT_FALSE(button.isImageOnly());
   EXPECT_THAT(button.image(), IsNull());
 }
@@ -130,9 +131,9 @@ TEST_F(Roles, ADefaultActionStandsBehindItsToolButton)
 
 TEST_F(Roles, AnUnnamedButtonSendsNoAction)
 {
-  const auto& control = as<platform::Control>(add<QPushButton>(kPlace, QStringLiteral("Plan")));
-  EXPECT_FALSE(control.action());
-  EXPECT_FALSE(control.actionEquals(SearchText("")));
+  auto* widget = add<QPushButton>(kPlace, QStringLiteral("Plan"));
+  EXPECT_FALSE(as<platform::Control>(widget).action());
+  EXPECT_FALSE(viewForWidget(widget)->sendsAction(SearchText("")));
 }
 
 TEST_F(Roles, AButtonsActionIsWhatTheHostSaysElseItsNamedActionElseItsName)
@@ -148,8 +149,8 @@ TEST_F(Roles, AButtonsActionIsWhatTheHostSaysElseItsNamedActionElseItsName)
   EXPECT_THAT(control.action(), Optional(std::string("planTour")));
   widget->setProperty("wv_action", QStringLiteral("plan:"));
   EXPECT_THAT(control.action(), Optional(std::string("plan:")));
-  EXPECT_TRUE(control.actionEquals(SearchText("plan:")));
-  EXPECT_FALSE(control.actionEquals(SearchText("planTour")));
+  EXPECT_TRUE(viewForWidget(widget)->sendsAction(SearchText("plan:")));
+  EXPECT_FALSE(viewForWidget(widget)->sendsAction(SearchText("planTour")));
 }
 
 TEST_F(Roles, AFieldsNameIsNotItsAction)
@@ -170,7 +171,7 @@ TEST_F(Roles, AComboBoxSaysItsSelectedEntry)
   box->setCurrentIndex(1);
   EXPECT_THAT(as<platform::PopUpButton>(box).titleOfSelectedItem(), Optional(std::string("Hard")));
   EXPECT_EQ(as<platform::Button>(box).title(), "Hard");
-  EXPECT_TRUE(as<platform::Button>(box).titleEquals(SearchText("Hard")));
+  EXPECT_TRUE(viewForWidget(box)->isTitled(SearchText("Hard")));
   EXPECT_THAT(as<platform::Button>(box).image(), NotNull());
   EXPECT_FALSE(as<platform::Button>(box).isImageOnly());
   box->setCurrentIndex(-1);

@@ -32,10 +32,12 @@ QStringView viewOf(std::u16string_view text)
   return {text.data(), static_cast<qsizetype>(text.size())};
 }
 
-/// Visits the characters of a caption that are shown, until the visitor answers false.
-template <class Visitor>
-bool visitShown(QStringView caption, Visitor visit)
+using CaptionBuffer = QVarLengthArray<QChar, 256>;
+
+/// What is shown of a caption: a part of it or of the buffer, so that a short one allocates nothing.
+QStringView shownCaption(QStringView caption, CaptionBuffer& buffer)
 {
+  if (!caption.contains(u'&')) return caption;
   for (qsizetype i = 0; i < caption.size(); ++i) {
     // "(&S)" is how languages without Latin letters show a mnemonic: all of it goes.
     if (caption[i] == u'(' && i + 3 < caption.size() && caption[i + 1] == u'&' && caption[i + 2] != u'&' &&
@@ -44,9 +46,10 @@ bool visitShown(QStringView caption, Visitor visit)
       continue;
     }
     if (caption[i] == u'&' && ++i >= caption.size()) break;
-    if (!visit(caption[i])) return false;
+    buffer.append(caption[i]);
   }
-  return true;
+  const QStringView shown(buffer.constData(), buffer.size());
+  return caption.contains(QLatin1String("(&")) ? shown.trimmed() : shown;
 }
 
 } // namespace
@@ -76,23 +79,27 @@ bool equals(QStringView text, const platform::SearchText& wanted)
 QString withoutMnemonic(const QString& caption)
 {
   if (!caption.contains(u'&')) return caption;
-  QString result;
-  result.reserve(caption.size());
-  visitShown(caption, [&](QChar c) {
-    result.append(c);
-    return true;
-  });
-  return caption.contains(QLatin1String("(&")) ? result.trimmed() : result;
+  CaptionBuffer buffer;
+  return shownCaption(caption, buffer).toString();
 }
 
 bool captionEquals(QStringView caption, const platform::SearchText& wanted)
 {
-  if (!caption.contains(u'&')) return equals(caption, wanted);
-  if (caption.contains(QLatin1String("(&"))) return equals(withoutMnemonic(caption.toString()), wanted);
-  const QStringView shown = viewOf(wanted.utf16());
-  qsizetype at = 0;
-  const bool all = visitShown(caption, [&](QChar c) { return at < shown.size() && shown[at++] == c; });
-  return all && at == shown.size() && wanted.isValid();
+  CaptionBuffer buffer;
+  return equals(shownCaption(caption, buffer), wanted);
+}
+
+bool captionEqualsWithoutColon(QStringView caption, const platform::SearchText& wanted)
+{
+  CaptionBuffer buffer;
+  return equals(withoutColon(shownCaption(caption, buffer)), wanted);
+}
+
+QStringView withoutColon(QStringView text)
+{
+  text = text.trimmed();
+  if (text.endsWith(u':') || text.endsWith(u'\uFF1A')) text.chop(1);
+  return text.trimmed();
 }
 
 QString withoutMarkup(const QString& text)

@@ -35,8 +35,12 @@ namespace wayvane::qt {
 [[nodiscard]] bool equals(QStringView text, const platform::SearchText& wanted);
 /// A caption without its keyboard mnemonic: "&Save" and "Save(&S)" say "Save", "A && B" says "A & B".
 [[nodiscard]] QString withoutMnemonic(const QString& caption);
-/// The same as `equals(withoutMnemonic(caption), wanted)`, without allocating.
+/// The same as `equals(withoutMnemonic(caption), wanted)`, without allocating for a short caption.
 [[nodiscard]] bool captionEquals(QStringView caption, const platform::SearchText& wanted);
+/// A text less the colon at its end, and the spaces around.
+[[nodiscard]] QStringView withoutColon(QStringView text);
+/// The same as `equals(withoutColon(withoutMnemonic(caption)), wanted)`, without allocating for a short one.
+[[nodiscard]] bool captionEqualsWithoutColon(QStringView caption, const platform::SearchText& wanted);
 
 /// The words of a text that may be rich text, as Qt guesses it; a plain one comes back as it is.
 [[nodiscard]] QString withoutMarkup(const QString& text);

@@ -68,6 +68,11 @@ std::optional<std::string> declaredKeyPath(const QWidget& widget, const ClassInf
 
 } // namespace
 
+bool mayHaveBindings(const QWidget& widget, const ClassInfo& info)
+{
+  return mayHaveHostProperties(widget, info) || !mappersIn(*widget.window()).empty();
+}
+
 std::optional<std::string> keyPathOfBinding(const QWidget& widget, const ClassInfo& info,
                                             std::string_view binding)
 {

@@ -18,4 +18,7 @@ namespace wayvane::qt {
 [[nodiscard]] std::optional<std::string> keyPathOfBinding(const QWidget& widget, const ClassInfo& info,
                                                           std::string_view binding);
 
+/// False when the widget is certainly bound to nothing. Next to free for one widget after the other.
+[[nodiscard]] bool mayHaveBindings(const QWidget& widget, const ClassInfo& info);
+
 } // namespace wayvane::qt

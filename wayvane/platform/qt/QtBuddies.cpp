@@ -1,41 +1,70 @@
 #include <wayvane/platform/qt/Conversions.h>
 #include <wayvane/platform/qt/QtBuddies.h>
-#include <wayvane/platform/qt/QtObjectWatch.h>
+#include <wayvane/platform/qt/QtClasses.h>
 
 #include <QLabel>
-#include <QPointer>
 #include <QTextDocument>
 
+#include <algorithm>
+#include <array>
+#include <tuple>
 #include <vector>
 
 namespace wayvane::qt {
 
+std::uint64_t detail::buddyMemory = 0;
+
 namespace {
 
-/// The labels of the widget asked about last: a search asks about one field after the other.
-struct SiblingLabels {
-  const QWidget* parent = nullptr;
-  std::uint64_t generation = 0;
-  std::vector<QPointer<const QLabel>> labels;
+struct Buddy {
+  const QWidget* widget;
+  std::size_t order;
+  const QLabel* label;
+
+  [[nodiscard]] auto key() const { return std::tie(widget, order); }
 };
 
-const std::vector<QPointer<const QLabel>>& labelsIn(const QWidget& parent)
+/// Those that the children of one widget name.
+struct Buddies {
+  const QWidget* parent = nullptr;
+  std::uint64_t memory = 0;
+  std::vector<Buddy> list;
+};
+
+void collect(const QWidget& parent, std::vector<Buddy>& list)
 {
-  static SiblingLabels last;
-  const std::uint64_t generation = childGeneration();
-  if (last.parent != &parent || last.generation != generation || generation == 0) {
-    last = {&parent, generation, {}};
-    for (const QObject* child : parent.children())
-      if (const auto* label = qobject_cast<const QLabel*>(child)) last.labels.emplace_back(label);
+  list.clear();
+  for (const QObject* child : parent.children()) {
+    if (!child->isWidgetType() || classInfo(child->metaObject()).family != Family::Label) continue;
+    const auto* label = static_cast<const QLabel*>(child);
+    if (const QWidget* buddy = label->buddy()) list.push_back({buddy, list.size(), label});
   }
-  return last.labels;
+  std::sort(list.begin(), list.end(), [](const Buddy& a, const Buddy& b) { return a.key() < b.key(); });
 }
 
-QString withoutColon(QString text)
+const std::vector<Buddy>& buddiesIn(const QWidget& parent)
 {
-  text = text.trimmed();
-  if (text.endsWith(u':') || text.endsWith(u'\uFF1A')) text.chop(1);
-  return text.trimmed();
+  // A walk goes through a widget's children and theirs in turn.
+  static std::array<Buddies, 16> known;
+  Buddies& buddies = known[(reinterpret_cast<std::uintptr_t>(&parent) >> 5U) % known.size()];
+  if (buddies.parent != &parent || buddies.memory != detail::buddyMemory) {
+    collect(parent, buddies.list);
+    buddies.parent = &parent;
+    buddies.memory = detail::buddyMemory;
+  }
+  return buddies.list;
+}
+
+/// The first of them; null when there is none.
+const QLabel* labelOf(const QWidget& widget)
+{
+  const QWidget* parent = widget.parentWidget();
+  if (!parent) return nullptr;
+  const std::vector<Buddy>& buddies = buddiesIn(*parent);
+  const auto found =
+      std::lower_bound(buddies.begin(), buddies.end(), &widget,
+                       [](const Buddy& buddy, const QWidget* wanted) { return buddy.widget < wanted; });
+  return found != buddies.end() && found->widget == &widget ? found->label : nullptr;
 }
 
 } // namespace
@@ -59,11 +88,16 @@ QString shownText(const QLabel& label)
 
 QString buddyText(const QWidget& widget)
 {
-  const QWidget* parent = widget.parentWidget();
-  if (!parent) return {};
-  for (const auto& label : labelsIn(*parent))
-    if (label && label->buddy() == &widget) return withoutColon(shownText(*label));
-  return {};
+  const QLabel* label = labelOf(widget);
+  return label ? withoutColon(shownText(*label)).toString() : QString();
+}
+
+bool buddyTextEquals(const QWidget& widget, const platform::SearchText& text)
+{
+  const QLabel* label = labelOf(widget);
+  if (!label) return false;
+  if (label->textFormat() == Qt::RichText) return equals(withoutColon(shownText(*label)), text);
+  return captionEqualsWithoutColon(label->text(), text);
 }
 
 } // namespace wayvane::qt

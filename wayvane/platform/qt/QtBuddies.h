@@ -1,6 +1,10 @@
 #pragma once
 
+#include <wayvane/platform/SearchText.h>
+
 #include <QString>
+
+#include <cstdint>
 
 class QLabel;
 class QWidget;
@@ -12,5 +16,21 @@ namespace wayvane::qt {
 /// The text of the label whose buddy the widget is, less a colon at its end; empty when none of the labels
 /// beside the widget has it as its buddy.
 [[nodiscard]] QString buddyText(const QWidget& widget);
+/// Whether it is that text, which is not empty.
+[[nodiscard]] bool buddyTextEquals(const QWidget& widget, const platform::SearchText& text);
+
+namespace detail {
+
+extern std::uint64_t buddyMemory;
+
+} // namespace detail
+
+/// Which label is whose is found out for all labels beside a widget at once, and remembered during a walk: no
+/// tree changes while it is visited. Whoever holds a handle may come after any change, so a question to one
+/// ends what is remembered.
+inline void forgetBuddies()
+{
+  ++detail::buddyMemory;
+}
 
 } // namespace wayvane::qt

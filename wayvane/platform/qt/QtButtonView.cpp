@@ -38,10 +38,10 @@ std::string QtButtonView::title() const
   return b ? toUtf8(withoutMnemonic(b->text())) : std::string();
 }
 
-bool QtButtonView::titleEquals(const platform::SearchText& text) const
+bool QtButtonView::isTitled(const platform::SearchText& text) const
 {
   const QAbstractButton* b = button();
-  return b && captionEquals(b->text(), text);
+  return b && (captionEquals(b->text(), text) || QtView::isTitled(text));
 }
 
 bool QtButtonView::isImageOnly() const
@@ -73,10 +73,10 @@ QString QtButtonView::ownToolTip(const QWidget& widget) const
 
 QString QtButtonView::actionName(const QWidget& widget) const
 {
-  if (const QString said = hostValue(widget, info(), "wv_action").toString(); !said.isEmpty()) return said;
-  if (const auto* tool = qobject_cast<const QToolButton*>(&widget); tool && tool->defaultAction()) {
-    if (const QString name = givenActionName(*tool->defaultAction()); !name.isEmpty()) return name;
-  }
+  if (const QString said = hostText(widget, info(), "wv_action"); !said.isEmpty()) return said;
+  const QAction* action =
+      info().isToolButton ? static_cast<const QToolButton&>(widget).defaultAction() : nullptr;
+  if (const QString name = action ? givenActionName(*action) : QString(); !name.isEmpty()) return name;
   if (const QString name = QtControlView::actionName(widget); !name.isEmpty()) return name;
   const QString own = widget.objectName();
   return isGivenName(own) ? own : QString();

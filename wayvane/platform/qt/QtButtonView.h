@@ -13,11 +13,19 @@ public:
 
 protected:
   [[nodiscard]] std::string title() const override;
-  [[nodiscard]] bool titleEquals(const platform::SearchText& text) const override;
+  [[nodiscard]] bool isTitled(const platform::SearchText& text) const override;
   [[nodiscard]] bool isImageOnly() const override;
   [[nodiscard]] platform::ImageHandle image() const override;
   /// An image-only button is read by the text that it does not show.
   [[nodiscard]] QString derivedLabel(const QWidget& widget) const override;
+
+  /// Where there is one, it is the title.
+  [[nodiscard]] bool derivedLabelEquals(const QWidget& /*widget*/,
+                                        const platform::SearchText& /*text*/) const override
+  {
+    return false;
+  }
+
   /// Without the tip that actions make of their text.
   [[nodiscard]] QString ownToolTip(const QWidget& widget) const override;
   [[nodiscard]] QString actionName(const QWidget& widget) const override;

@@ -11,6 +11,7 @@
 
 namespace wayvane::qt {
 
+using platform::Feature;
 using platform::ViewKind;
 
 namespace {
@@ -95,6 +96,15 @@ bool declaresHostProperties(const QMetaObject* metaObject)
   return false;
 }
 
+/// Every widget can be given a name, an accessible name and a binding.
+platform::Features featuresOf(const ClassInfo& info)
+{
+  platform::Features features{Feature::Identifier, Feature::Bindings, Feature::TitleOrLabel};
+  if (info.is(ViewKind::Control)) features.add(Feature::Action);
+  if (info.declaresHostProperties) features.add(Feature::HostAnswers);
+  return features;
+}
+
 ClassInfo describe(const QMetaObject* metaObject)
 {
   const std::string_view name = metaObject->className();
@@ -106,6 +116,8 @@ ClassInfo describe(const QMetaObject* metaObject)
   info.isOwn = name.starts_with("WV") || name.starts_with("wayvane::qt::");
   info.isHost = !info.isOwn && !isToolkitName(name);
   info.declaresHostProperties = declaresHostProperties(metaObject);
+  info.isToolButton = metaObject->inherits(&QToolButton::staticMetaObject);
+  info.features = featuresOf(info);
   return info;
 }
 

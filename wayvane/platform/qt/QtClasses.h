@@ -39,6 +39,10 @@ struct ClassInfo {
   bool isHost = false;
   /// The class declares properties whose names begin with "wv_".
   bool declaresHostProperties = false;
+  /// Whether an action of the program's may stand behind it.
+  bool isToolButton = false;
+  /// What its widgets may have; the class alone cannot tell of subviews and of dynamic properties.
+  platform::Features features;
 
   [[nodiscard]] bool is(platform::ViewKind kind) const { return (kinds >> static_cast<unsigned>(kind)) & 1U; }
 };

@@ -14,17 +14,17 @@ std::optional<std::string> QtControlView::action() const
   return w ? toOptional(actionName(*w)) : std::nullopt;
 }
 
-bool QtControlView::actionEquals(const platform::SearchText& name) const
+bool QtControlView::sendsAction(const platform::SearchText& action) const
 {
   const QWidget* w = widget();
   if (!w) return false;
   const QString mine = actionName(*w);
-  return !mine.isEmpty() && equals(mine, name);
+  return !mine.isEmpty() && equals(mine, action);
 }
 
 QString QtControlView::actionName(const QWidget& widget) const
 {
-  if (const QString said = hostValue(widget, info(), "wv_action").toString(); !said.isEmpty()) return said;
+  if (const QString said = hostText(widget, info(), "wv_action"); !said.isEmpty()) return said;
   const QList<QAction*> actions = widget.actions();
   for (const QAction* action : actions)
     if (const QString name = action->objectName(); isGivenName(name)) return name;

@@ -11,7 +11,7 @@ public:
 
 protected:
   [[nodiscard]] std::optional<std::string> action() const override;
-  [[nodiscard]] bool actionEquals(const platform::SearchText& name) const override;
+  [[nodiscard]] bool sendsAction(const platform::SearchText& action) const override;
   /// The name of the action that stands behind the widget; empty when there is none.
   [[nodiscard]] virtual QString actionName(const QWidget& widget) const;
   [[nodiscard]] const void* roleOfKind(platform::ViewKind kind) const override;

@@ -22,6 +22,13 @@ namespace wayvane::qt {
 
 /// The value of such a property, declared by the class or set dynamically; invalid when there is none.
 [[nodiscard]] QVariant hostValue(const QWidget& widget, const ClassInfo& info, const char* name);
+
+/// The same as a text; empty when there is none.
+[[nodiscard]] inline QString hostText(const QWidget& widget, const ClassInfo& info, const char* name)
+{
+  return mayHaveHostProperties(widget, info) ? hostValue(widget, info, name).toString() : QString();
+}
+
 /// The same for objects of which only dynamic properties count.
 [[nodiscard]] QVariant hostValue(const QObject& object, const char* name);
 /// Whether somebody chose this object name; the toolkit's own ("qt_...", "_q_...") are as good as none.

@@ -29,10 +29,10 @@ std::string QtPopUpView::title() const
   return b ? toUtf8(selectedText(*b)) : std::string();
 }
 
-bool QtPopUpView::titleEquals(const platform::SearchText& text) const
+bool QtPopUpView::isTitled(const platform::SearchText& text) const
 {
   const QComboBox* b = box();
-  return b && equals(selectedText(*b), text);
+  return b && (equals(selectedText(*b), text) || QtView::isTitled(text));
 }
 
 bool QtPopUpView::isImageOnly() const
@@ -57,6 +57,11 @@ std::optional<std::string> QtPopUpView::titleOfSelectedItem() const
 QString QtPopUpView::derivedLabel(const QWidget& widget) const
 {
   return buddyText(widget);
+}
+
+bool QtPopUpView::derivedLabelEquals(const QWidget& widget, const platform::SearchText& text) const
+{
+  return buddyTextEquals(widget, text);
 }
 
 const void* QtPopUpView::roleOfKind(ViewKind kind) const

@@ -13,11 +13,13 @@ public:
 
 protected:
   [[nodiscard]] std::string title() const override;
-  [[nodiscard]] bool titleEquals(const platform::SearchText& text) const override;
+  [[nodiscard]] bool isTitled(const platform::SearchText& text) const override;
   [[nodiscard]] bool isImageOnly() const override;
   [[nodiscard]] platform::ImageHandle image() const override;
   [[nodiscard]] std::optional<std::string> titleOfSelectedItem() const override;
   [[nodiscard]] QString derivedLabel(const QWidget& widget) const override;
+  [[nodiscard]] bool derivedLabelEquals(const QWidget& widget,
+                                        const platform::SearchText& text) const override;
   [[nodiscard]] const void* roleOfKind(platform::ViewKind kind) const override;
 
 private:

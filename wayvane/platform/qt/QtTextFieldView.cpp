@@ -54,6 +54,11 @@ QString QtLineEditView::derivedLabel(const QWidget& widget) const
   return buddyText(widget);
 }
 
+bool QtLineEditView::derivedLabelEquals(const QWidget& widget, const platform::SearchText& text) const
+{
+  return buddyTextEquals(widget, text);
+}
+
 const void* QtLineEditView::roleOfKind(ViewKind kind) const
 {
   const void* field = roleOf(this, kind);
@@ -82,6 +87,11 @@ std::optional<std::string> QtSpinBoxView::placeholderString() const
 QString QtSpinBoxView::derivedLabel(const QWidget& widget) const
 {
   return buddyText(widget);
+}
+
+bool QtSpinBoxView::derivedLabelEquals(const QWidget& widget, const platform::SearchText& text) const
+{
+  return buddyTextEquals(widget, text);
 }
 
 const void* QtSpinBoxView::roleOfKind(ViewKind kind) const

@@ -29,6 +29,8 @@ protected:
   [[nodiscard]] std::string stringValue() const override;
   [[nodiscard]] std::optional<std::string> placeholderString() const override;
   [[nodiscard]] QString derivedLabel(const QWidget& widget) const override;
+  [[nodiscard]] bool derivedLabelEquals(const QWidget& widget,
+                                        const platform::SearchText& text) const override;
   [[nodiscard]] const void* roleOfKind(platform::ViewKind kind) const override;
 };
 
@@ -42,6 +44,8 @@ protected:
   [[nodiscard]] std::string stringValue() const override;
   [[nodiscard]] std::optional<std::string> placeholderString() const override;
   [[nodiscard]] QString derivedLabel(const QWidget& widget) const override;
+  [[nodiscard]] bool derivedLabelEquals(const QWidget& widget,
+                                        const platform::SearchText& text) const override;
   [[nodiscard]] const void* roleOfKind(platform::ViewKind kind) const override;
 };
 

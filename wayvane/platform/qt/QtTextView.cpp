@@ -30,6 +30,11 @@ QString QtTextView::derivedLabel(const QWidget& widget) const
   return buddyText(widget);
 }
 
+bool QtTextView::derivedLabelEquals(const QWidget& widget, const platform::SearchText& text) const
+{
+  return buddyTextEquals(widget, text);
+}
+
 const void* QtTextView::roleOfKind(ViewKind kind) const
 {
   if (kind == ViewKind::TextView) return static_cast<const platform::TextView*>(this);

@@ -18,6 +18,8 @@ protected:
   [[nodiscard]] platform::ViewHandle delegate() const override { return nullptr; }
 
   [[nodiscard]] QString derivedLabel(const QWidget& widget) const override;
+  [[nodiscard]] bool derivedLabelEquals(const QWidget& widget,
+                                        const platform::SearchText& text) const override;
   [[nodiscard]] const void* roleOfKind(platform::ViewKind kind) const override;
 };
 

@@ -12,7 +12,14 @@
 
 namespace wayvane::qt {
 
+using platform::Feature;
+
 namespace {
+
+bool isMarkedOwn(const QWidget& widget)
+{
+  return widget.property("wv_own").toBool();
+}
 
 /// Calls `use` with the view class of the family, as a type.
 template <class Use>
@@ -47,17 +54,24 @@ auto withViewClass(Family family, Use use)
   return use(std::type_identity<QtView>{});
 }
 
-bool visit(QWidget& widget, const ClassInfo& info, platform::FunctionRef<bool(const platform::View&)> visitor)
+platform::Features featuresOf(const QWidget& widget, const ClassInfo& info, bool mayCarryProperties)
 {
-  return withViewClass(info.family, [&](auto type) {
-    const typename decltype(type)::type view(widget, info);
-    return visitor(view);
-  });
+  platform::Features features = info.features;
+  if (!widget.children().isEmpty()) features.add(Feature::Subviews);
+  if (mayCarryProperties) features.add(Feature::HostAnswers);
+  return features;
 }
 
-bool isMarkedOwn(const QWidget& widget)
+/// Passes over a widget of the framework's own.
+bool visit(QWidget& widget, platform::FunctionRef<bool(const platform::View&)> visitor)
 {
-  return mayCarryHostProperties(widget) && widget.property("wv_own").toBool();
+  const ClassInfo& info = classInfo(widget.metaObject());
+  const bool mayCarryProperties = mayCarryHostProperties(widget);
+  if (info.isOwn || (mayCarryProperties && isMarkedOwn(widget))) return true;
+  return withViewClass(info.family, [&](auto type) {
+    const typename decltype(type)::type view(widget, info, featuresOf(widget, info, mayCarryProperties));
+    return visitor(view);
+  });
 }
 
 } // namespace
@@ -70,17 +84,9 @@ bool QtView::visitSubviews(platform::FunctionRef<bool(const platform::View&)> vi
   for (qsizetype i = 0; i < children.size(); ++i) {
     if (!children[i]->isWidgetType()) continue;
     auto* child = static_cast<QWidget*>(children[i]);
-    if (child->isWindow()) continue;
-    const ClassInfo& childInfo = classInfo(child->metaObject());
-    if (childInfo.isOwn || isMarkedOwn(*child)) continue;
-    if (!visit(*child, childInfo, visitor)) return false;
+    if (!child->isWindow() && !visit(*child, visitor)) return false;
   }
   return true;
-}
-
-bool visitWidget(QWidget& widget, platform::FunctionRef<bool(const platform::View&)> visitor)
-{
-  return visit(widget, classInfo(widget.metaObject()), visitor);
 }
 
 platform::ViewHandle viewForWidget(QWidget* widget)
@@ -101,7 +107,8 @@ QWidget* widgetOf(const platform::View& view)
 
 bool isOwnWidget(const QWidget* widget)
 {
-  return widget && (classInfo(widget->metaObject()).isOwn || isMarkedOwn(*widget));
+  if (!widget) return false;
+  return classInfo(widget->metaObject()).isOwn || (mayCarryHostProperties(*widget) && isMarkedOwn(*widget));
 }
 
 } // namespace wayvane::qt

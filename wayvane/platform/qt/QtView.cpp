@@ -1,6 +1,7 @@
 #include <wayvane/platform/qt/Conversions.h>
 #include <wayvane/platform/qt/ModelObjects.h>
 #include <wayvane/platform/qt/QtBindings.h>
+#include <wayvane/platform/qt/QtBuddies.h>
 #include <wayvane/platform/qt/QtHostProperties.h>
 #include <wayvane/platform/qt/QtHover.h>
 #include <wayvane/platform/qt/QtItemViews.h>
@@ -17,6 +18,7 @@ using platform::ViewKind;
 
 QWidget* QtView::livingWidget() const
 {
+  forgetBuddies();
   QWidget* widget = followed_.data();
   // While it is being destroyed it is no longer of its class, and may not be asked what that class knows.
   return widget && widget->metaObject() == info_->metaObject ? widget : nullptr;
@@ -129,14 +131,23 @@ std::optional<std::string> QtView::accessibilityLabel() const
   return toOptional(name.isEmpty() ? derivedLabel(*w) : name);
 }
 
-bool QtView::accessibilityLabelEquals(const SearchText& text) const
+bool QtView::isTitled(const SearchText& text) const
 {
   const QWidget* w = widget();
-  if (!w) return false;
+  if (!w || text.utf8().empty()) return false;
   const QString name = w->accessibleName();
-  if (!name.isEmpty()) return equals(name, text);
-  const QString derived = derivedLabel(*w);
-  return !derived.isEmpty() && equals(derived, text);
+  return name.isEmpty() ? derivedLabelEquals(*w, text) : equals(name, text);
+}
+
+bool QtView::derivedLabelEquals(const QWidget& widget, const SearchText& text) const
+{
+  const QString label = derivedLabel(widget);
+  return !label.isEmpty() && equals(label, text);
+}
+
+bool QtView::sendsAction(const SearchText& /*action*/) const
+{
+  return false;
 }
 
 QString QtView::derivedLabel(const QWidget& /*widget*/) const
@@ -159,6 +170,12 @@ std::optional<std::string> QtView::observedKeyPathForBinding(std::string_view bi
 {
   const QWidget* w = widget();
   return w ? keyPathOfBinding(*w, *info_, binding) : std::nullopt;
+}
+
+bool QtView::observedKeyPathEquals(std::string_view binding, const SearchText& keyPath) const
+{
+  const QWidget* w = widget();
+  return w && mayHaveBindings(*w, *info_) && keyPathOfBinding(*w, *info_, binding) == keyPath.utf8();
 }
 
 // What a host says about its own views

@@ -13,9 +13,10 @@ namespace wayvane::qt {
 /// holds follows the widget's life. Coordinates are the widget's own: downward, in device-independent pixels.
 class QtView : public platform::View, protected platform::TableCellView {
 public:
-  /// Borrows a living widget for the time of a visit.
-  QtView(QWidget& widget, const ClassInfo& info)
-    : borrowed_(&widget)
+  /// Borrows a living widget for the time of a visit, during which it gets no features.
+  QtView(QWidget& widget, const ClassInfo& info, platform::Features features)
+    : View(features)
+    , borrowed_(&widget)
     , info_(&info)
   {}
 
@@ -55,9 +56,12 @@ public:
   [[nodiscard]] std::optional<std::string> accessibilityIdentifier() const override;
   [[nodiscard]] bool accessibilityIdentifierEquals(const platform::SearchText& text) const override;
   [[nodiscard]] std::optional<std::string> accessibilityLabel() const override;
-  [[nodiscard]] bool accessibilityLabelEquals(const platform::SearchText& text) const override;
   [[nodiscard]] std::optional<std::string> toolTip() const override;
   [[nodiscard]] std::optional<std::string> observedKeyPathForBinding(std::string_view binding) const override;
+  [[nodiscard]] bool observedKeyPathEquals(std::string_view binding,
+                                           const platform::SearchText& keyPath) const override;
+  [[nodiscard]] bool sendsAction(const platform::SearchText& action) const override;
+  [[nodiscard]] bool isTitled(const platform::SearchText& text) const override;
   [[nodiscard]] std::optional<std::string> hostString(platform::HostProperty property) const override;
   [[nodiscard]] std::optional<double> hostNumber(platform::HostProperty property) const override;
 
@@ -73,6 +77,9 @@ protected:
 
   /// The label that assistive technology reads when the host gave none.
   [[nodiscard]] virtual QString derivedLabel(const QWidget& widget) const;
+  /// Whether it is that text, which is not empty. Overridden where making the label takes time.
+  [[nodiscard]] virtual bool derivedLabelEquals(const QWidget& widget,
+                                                const platform::SearchText& text) const;
   /// A tool tip that the toolkit made out of other texts is none.
   [[nodiscard]] virtual QString ownToolTip(const QWidget& widget) const;
   /// Where the origin of the view's coordinates lies in the widget: not at (0, 0) for what scrolls in itself.
@@ -100,7 +107,5 @@ private:
 /// Whether the widget is the framework's own (its class lives in the namespace wayvane::qt or begins with
 /// "WV", or it has the property "wv_own"). Searches and hit tests pass over those.
 [[nodiscard]] bool isOwnWidget(const QWidget* widget);
-/// Calls the visitor with the widget as an element, on the stack.
-bool visitWidget(QWidget& widget, platform::FunctionRef<bool(const platform::View&)> visitor);
 
 } // namespace wayvane::qt
