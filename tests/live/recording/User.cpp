@@ -58,29 +58,43 @@ void click(QWidget& widget)
   click(widget, widget.rect().center());
 }
 
-void doubleClick(QWidget& widget)
+void doubleClick(QWidget& widget, QPoint at)
 {
-  QTest::mouseDClick(windowBehind(widget), Qt::LeftButton, {}, inWindow(widget, widget.rect().center()));
+  const QPointer<QWindow> window = windowBehind(widget);
+  if (!window) return;
+  const QPoint global = widget.mapToGlobal(at);
+  click(widget, at);
+  QWindow* const under = window ? window.data() : QGuiApplication::topLevelAt(global);
+  if (!under) return;
+  // The second press follows at once.
+  QTest::lastMouseTimestamp -= QTest::mouseDoubleClickInterval;
+  const QPointer<QWindow> stillThere = under;
+  QTest::mousePress(under, Qt::LeftButton, {}, under->mapFromGlobal(global));
+  releaseAt(stillThere, global, Qt::LeftButton);
 }
 
 void drag(QWidget& widget, QPoint from, QPoint to)
 {
   const QPointer<QWindow> window = windowBehind(widget);
-  const QPoint global = widget.mapToGlobal(to);
-  QTest::mousePress(window, Qt::LeftButton, {}, inWindow(widget, from));
+  if (!window) return;
+  const QPoint start = widget.mapToGlobal(from);
+  const QPoint end = widget.mapToGlobal(to);
+  QTest::mousePress(window, Qt::LeftButton, {}, window->mapFromGlobal(start));
   constexpr int kSteps = 5;
   for (int step = 1; step <= kSteps && window; ++step)
-    QTest::mouseMove(window, window->mapFromGlobal(widget.mapToGlobal(from + (to - from) * step / kSteps)));
-  releaseAt(window, global, Qt::LeftButton);
+    QTest::mouseMove(window, window->mapFromGlobal(start + (end - start) * step / kSteps));
+  releaseAt(window, end, Qt::LeftButton);
 }
 
 void tap(QWidget& widget)
 {
   static QPointingDevice* const screen = QTest::createTouchDevice();
-  QWindow* const window = windowBehind(widget);
-  const QPoint at = inWindow(widget, widget.rect().center());
-  QTest::touchEvent(window, screen).press(0, at, window);
-  QTest::touchEvent(window, screen).release(0, at, window);
+  const QPointer<QWindow> window = windowBehind(widget);
+  if (!window) return;
+  const QPoint global = widget.mapToGlobal(widget.rect().center());
+  QTest::touchEvent(window, screen).press(0, window->mapFromGlobal(global), window);
+  QWindow* const under = window ? window.data() : QGuiApplication::topLevelAt(global);
+  if (under) QTest::touchEvent(under, screen).release(0, under->mapFromGlobal(global), under);
 }
 
 void hover(QWidget& widget, QPoint at)

@@ -90,8 +90,7 @@ TEST_F(Clicks, ADoubleClickIsOneStepAndStaysADoubleClick)
   QObject::connect(list, &QListWidget::itemDoubleClicked, list, [&](const QListWidgetItem* item) {
     acts.push_back("double " + item->text().toStdString());
   });
-  const QPoint at = list->visualItemRect(list->item(1)).center();
-  QTest::mouseDClick(window->windowHandle(), Qt::LeftButton, {}, list->viewport()->mapTo(window, at));
+  doubleClick(*list->viewport(), list->visualItemRect(list->item(1)).center());
   EXPECT_THAT(acts, ElementsAre("double two"));
   ASSERT_TRUE(annotate());
   EXPECT_TRUE(nothingIsAsked());
@@ -100,7 +99,7 @@ TEST_F(Clicks, ADoubleClickIsOneStepAndStaysADoubleClick)
 
 TEST_F(Clicks, ADoubleClickOnAButtonPressesItTwice)
 {
-  doubleClick(*save);
+  doubleClick(*save, {60, 16});
   EXPECT_THAT(acts, ElementsAre("Save", "Save"));
   ASSERT_TRUE(annotate());
   EXPECT_TRUE(nothingIsAsked());
