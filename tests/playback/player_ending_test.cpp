@@ -1,5 +1,8 @@
 #include <tests/playback/PlayerFixture.h>
 
+#include <algorithm>
+#include <stdexcept>
+
 namespace wayvane {
 namespace {
 
@@ -315,6 +318,34 @@ TEST_F(PlayerEnding, TargetsActionStopsTheGuide)
   performStep(save);
   EXPECT_THAT(delegate->calls, ElementsAre("show 0", "skip Tour at 0"));
   expectIdle();
+}
+
+TEST_F(PlayerEnding, DelegateThatThrowsAtEveryChanceHoldsNothingUp)
+{
+  const auto failing = [] { throw std::runtime_error("out of order"); };
+  delegate->onShow = [&](std::uint64_t) { failing(); };
+  delegate->onComplete = failing;
+  delegate->onSkip = failing;
+  const sim::Button& save = addButton("save");
+  playAndShow({"save"});
+  performStep(save);
+  EXPECT_THAT(delegate->calls, ElementsAre("show 0", "complete Tour"));
+  expectIdle();
+  playAndShow({"save"});
+  player->stop();
+  EXPECT_THAT(delegate->calls, ElementsAre("show 0", "complete Tour", "show 0", "skip Tour at 0"));
+  expectIdle();
+  EXPECT_EQ(std::ranges::count(desktop.log(), "WVPlayer: the host threw: out of order"), 4);
+}
+
+TEST_F(PlayerEnding, DelegateThatThrowsSomethingElseHoldsNothingUpEither)
+{
+  delegate->onSkip = [] { throw 7; }; // NOLINT(hicpp-exception-baseclass)
+  addButton("save");
+  playAndShow({"save"});
+  player->stop();
+  expectIdle();
+  EXPECT_EQ(desktop.log().back(), "WVPlayer: the host threw: unknown");
 }
 
 } // namespace

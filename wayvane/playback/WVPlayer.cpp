@@ -1,6 +1,7 @@
 #include <wayvane/overlay/WVBubbleView.h>
 #include <wayvane/overlay/WVCircleView.h>
 #include <wayvane/overlay/WVSpotlightView.h>
+#include <wayvane/platform/HostCall.h>
 #include <wayvane/playback/PlayerLog.h>
 #include <wayvane/playback/SimulatedHover.h>
 #include <wayvane/playback/WVPlayer.h>
@@ -73,7 +74,7 @@ void WVPlayer::playGuide(std::shared_ptr<WVGuide> guide, std::uint64_t fromStep)
     stop();
   // Whoever was told of the end may have destroyed the player, or begun a guide that came later than this
   // one.
-  if (!former.playerIfAlive() || isPlaying()) return;
+  if (!former.playerIfAlive() || isPlaying() || !platform::Platform::current()) return;
 
   guide_ = std::move(guide);
   currentStepIndex_ = fromStep;
@@ -99,7 +100,8 @@ WVPlayer::Outcome WVPlayer::_attemptCurrentStep()
   const Ticket mine = ticket();
   const std::uint64_t index = currentStepIndex_;
   const WVStep step = guide_->steps[index];
-  if (const std::shared_ptr<WVPlayerDelegate> told = delegate()) told->playerWillShowStep(index);
+  if (const std::shared_ptr<WVPlayerDelegate> told = delegate())
+    platform::callHost("WVPlayer", [&] { told->playerWillShowStep(index); });
   if (!mine.playerIfSameStep()) return Outcome::Settled;
   _dismissBubble();
 
@@ -136,7 +138,7 @@ void WVPlayer::advanceToNextStep()
   }
   phase_ = Phase::Completing;
   if (const std::shared_ptr<WVPlayerDelegate> told = delegate())
-    told->playerDidCompleteGuide(std::string(guide_->identifier.value_or("")));
+    platform::callHost("WVPlayer", [&] { told->playerDidCompleteGuide(guide_->identifier.value_or("")); });
   if (mine.playerIfSameRun()) stop();
 }
 
@@ -148,7 +150,8 @@ void WVPlayer::stop()
   _leaveCurrentTarget();
   if (!mine.playerIfSameRun()) return;
   if (const std::shared_ptr<WVPlayerDelegate> told = delegate(); told && stepIndexIsInside())
-    told->playerDidSkipGuide(std::string(guide_->identifier.value_or("")), currentStepIndex_);
+    platform::callHost("WVPlayer",
+                       [&] { told->playerDidSkipGuide(guide_->identifier.value_or(""), currentStepIndex_); });
   if (mine.playerIfSameRun()) _tearDown();
 }
 
