@@ -354,8 +354,9 @@ TEST_F(PlayerPresenting, LetsTheWindowDrawATenthOfASecondAfterTheHover)
 {
   addButton("save");
   playAndShow({"save"});
+  desktop.advance(0.09);
   EXPECT_EQ(window->displayCount(), 0);
-  desktop.advance(0.11);
+  desktop.advance(0.02);
   EXPECT_EQ(window->displayCount(), 1);
   desktop.advance(5);
   EXPECT_EQ(window->displayCount(), 1);

@@ -49,6 +49,27 @@ TEST_F(PlaybackTest, AClickElsewhereIsHeldBackAndContinueStaysOnTheStep)
   EXPECT_EQ(player->currentStepIndex(), 0U);
 }
 
+TEST_F(PlaybackTest, RightClicksAndKeysReachTheProgramAndNeitherAdvanceNorAsk)
+{
+  player->playGuide(guideFor({"save", "apply"}));
+  ASSERT_TRUE(waitForStep(0));
+  answerNextAlert(QStringLiteral("Exit"));
+  QWindow* const window = host->main->windowHandle();
+  for (const QWidget* widget : {host->save.data(), host->other.data()}) {
+    const QPoint at = widget->mapTo(host->main.data(), widget->rect().center());
+    QTest::mouseClick(window, Qt::RightButton, {}, at);
+    QTest::mouseClick(window, Qt::MiddleButton, {}, at);
+  }
+  host->other->setFocus();
+  QTest::keyClick(window, Qt::Key_Space);
+  QTest::keyClick(window, Qt::Key_Escape);
+  QTest::qWait(300);
+  EXPECT_EQ(host->others, 1) << "by the space bar";
+  EXPECT_TRUE(player->isPlaying());
+  EXPECT_EQ(player->currentStepIndex(), 0U);
+  EXPECT_TRUE(alertText.isEmpty());
+}
+
 TEST_F(PlaybackTest, AClickElsewhereAndExitEndsTheGuide)
 {
   player->playGuide(guideFor({"save", "apply"}));
