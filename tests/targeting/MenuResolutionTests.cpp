@@ -109,6 +109,13 @@ TEST_F(MenuResolution, BlanksAroundPartsDoNotCount)
   EXPECT_EQ(titleFound(), "Open…");
 }
 
+TEST_F(MenuResolution, BlanksOfEveryScriptDoNotCount)
+{
+  file.item("Open…");
+  descriptor.menuPath = "\u00A0File\u3000 > \u2003Open…\u202F";
+  EXPECT_EQ(titleFound(), "Open…");
+}
+
 TEST_F(MenuResolution, FirstOfTwoEntriesWithTheTitleIsTaken)
 {
   auto& first = file.item("Open…", "first:");
@@ -156,6 +163,22 @@ TEST_F(MenuResolution, DestroyedMenuFindsNothing)
   descriptor.menuAction = "openDocument:";
   descriptor.menuPath = "File > Open…";
   EXPECT_EQ(titleFound(), "nothing");
+}
+
+TEST_F(MenuResolution, MenusThatAreOpenedByManyEntriesAreSearchedOnce)
+{
+  // One way in doubles with every level: a search that took them all would not end.
+  sim::Menu* menu = &file;
+  for (int level = 0; level < 64; ++level) {
+    sim::Menu& below = menu->menu("Left");
+    menu->item("Right").setSubmenu(below.self());
+    menu = &below;
+  }
+  menu->item("Deep", "go:");
+  descriptor.menuAction = "gone:";
+  EXPECT_EQ(titleFound(), "nothing");
+  descriptor.menuAction = "go:";
+  EXPECT_EQ(titleFound(), "Deep");
 }
 
 TEST_F(MenuResolution, MenuThatOpensItselfIsSearchedOnce)

@@ -2,6 +2,7 @@
 #include <wayvane/platform/Platform.h>
 
 #include <algorithm>
+#include <array>
 #include <vector>
 
 namespace wayvane {
@@ -13,36 +14,52 @@ using platform::MenuItemHandle;
 namespace {
 
 constexpr std::string_view kPathSeparator = " > ";
-constexpr std::string_view kBlanks = " \t";
 
-/// The menus from the menu bar down to one; a menu that opens itself is not entered again.
-using MenuChain = std::vector<MenuHandle>;
+/// The menus that were looked through. None is twice, however many entries open it, and be it one of its own.
+using SearchedMenus = std::vector<MenuHandle>;
 
-bool isInChain(const MenuChain& chain, const Menu& menu)
+bool isIn(const SearchedMenus& searched, const Menu& menu)
 {
-  return std::any_of(chain.begin(), chain.end(),
+  return std::any_of(searched.begin(), searched.end(),
                      [&menu](const MenuHandle& other) { return other->isSame(menu); });
 }
 
 // A submenu comes right after its entry, before the next entry.
-MenuItemHandle findMenuItemWithAction(const std::string& action, const MenuHandle& menu, MenuChain& chain)
+MenuItemHandle findMenuItemWithAction(const std::string& action, const MenuHandle& menu,
+                                      SearchedMenus& searched)
 {
-  if (!menu || isInChain(chain, *menu)) return nullptr;
-  chain.push_back(menu);
+  if (!menu || isIn(searched, *menu)) return nullptr;
+  searched.push_back(menu);
   for (const auto& item : menu->items()) {
     if (!item) continue;
     if (item->action() == action) return item;
-    if (auto found = findMenuItemWithAction(action, item->submenu(), chain)) return found;
+    if (auto found = findMenuItemWithAction(action, item->submenu(), searched)) return found;
   }
-  chain.pop_back();
   return nullptr;
+}
+
+/// The length of the blank that the text begins with; 0 when it begins with none.
+std::size_t leadingBlank(std::string_view text)
+{
+  constexpr std::array<std::string_view, 19> kBlanks{
+      " ",      "\t",     "\u00A0", "\u1680", "\u2000", "\u2001", "\u2002", "\u2003", "\u2004", "\u2005",
+      "\u2006", "\u2007", "\u2008", "\u2009", "\u200A", "\u200B", "\u202F", "\u205F", "\u3000"};
+  for (const std::string_view blank : kBlanks)
+    if (text.starts_with(blank)) return blank.size();
+  return 0;
 }
 
 std::string_view trimmed(std::string_view text)
 {
-  const auto start = text.find_first_not_of(kBlanks);
-  if (start == std::string_view::npos) return {};
-  return text.substr(start, text.find_last_not_of(kBlanks) - start + 1);
+  while (const std::size_t length = leadingBlank(text))
+    text.remove_prefix(length);
+  std::size_t end = 0;
+  for (std::size_t at = 0; at < text.size();) {
+    const std::size_t length = leadingBlank(text.substr(at));
+    at += std::max<std::size_t>(length, 1);
+    if (length == 0) end = at;
+  }
+  return text.substr(0, end);
 }
 
 MenuItemHandle itemWithTitle(const MenuHandle& menu, std::string_view title)
@@ -72,9 +89,9 @@ MenuItemHandle WVTargetDescriptor::resolveMenuItem() const
 {
   const auto* desktop = platform::Platform::current();
   const auto mainMenu = desktop ? desktop->application.mainMenu() : nullptr;
-  MenuChain chain;
+  SearchedMenus searched;
   if (menuAction) {
-    if (auto item = findMenuItemWithAction(*menuAction, mainMenu, chain)) return item;
+    if (auto item = findMenuItemWithAction(*menuAction, mainMenu, searched)) return item;
   }
   return menuPath ? menuItemAtPath(mainMenu, *menuPath) : nullptr;
 }
