@@ -37,9 +37,17 @@ bool WVGuide::writeToURL(const std::string& path, Error* error) const
 {
   const auto bytes = jsonDataWithError(error);
   if (!bytes) return false;
-  if (Platform* platform = Platform::current()) return platform->files.writeAtomically(path, *bytes, error);
-  platform::setError(error, noPlatformError());
-  return false;
+  Platform* const platform = Platform::current();
+  if (!platform) {
+    platform::setError(error, noPlatformError());
+    return false;
+  }
+  try {
+    return platform->files.writeAtomically(path, *bytes, error);
+  } catch (const std::exception& exception) {
+    platform::setError(error, outOfMemoryError(exception));
+    return false;
+  }
 }
 
 std::shared_ptr<WVGuide> WVGuide::guideWithJSONData(std::string_view bytes, Error* error)
@@ -63,8 +71,13 @@ std::shared_ptr<WVGuide> WVGuide::guideWithContentsOfURL(const std::string& path
     platform::setError(error, noPlatformError());
     return nullptr;
   }
-  const auto bytes = platform->files.read(path, kFileSizeLimit, error);
-  return bytes ? guideWithJSONData(*bytes, error) : nullptr;
+  try {
+    const auto bytes = platform->files.read(path, kFileSizeLimit, error);
+    return bytes ? guideWithJSONData(*bytes, error) : nullptr;
+  } catch (const std::exception& exception) {
+    platform::setError(error, outOfMemoryError(exception));
+    return nullptr;
+  }
 }
 
 std::string WVGuide::localizedName() const
