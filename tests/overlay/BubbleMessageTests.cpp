@@ -166,6 +166,32 @@ TEST_F(BubbleMessage, ShowsAButtonThatIsOnlyAPictureAsThatPicture)
   EXPECT_EQ(runs()[2].font, Font::system(12));
 }
 
+TEST_F(BubbleMessage, ShowsADrawnCellThatHasAPictureAsThatPicture)
+{
+  sim::TableView& table = content().addTableView(
+      {.columns = {{.identifier = "kind"}}, .viewBased = false, .identifier = "target"});
+  platform::TableCell cell;
+  cell.image = sim::makeImage();
+  table.addRow({.cells = {cell}});
+  for (const char* own : {"", "Press [ICON:button] now"}) {
+    WVStep step = stepAtTarget(own);
+    step.target.tableRow = 0;
+    step.target.tableColumn = 0;
+    configure(step);
+    ASSERT_EQ(runs().size(), 2U) << own;
+    EXPECT_EQ(runs()[0].text, "Click on ");
+    EXPECT_EQ(runs()[0].font, Font::system(12));
+    EXPECT_EQ(runs()[1].attachment, table.row(0).cells[0].image);
+  }
+}
+
+TEST_F(BubbleMessage, AddsEmptyParenthesesForAToolTipOfNothingButAShortcut)
+{
+  addIconButton(" (x)");
+  configure(stepAtTarget());
+  EXPECT_EQ(runs().back().text, " ()");
+}
+
 TEST_F(BubbleMessage, CutsAToolTipAtItsLastParenthesis)
 {
   addIconButton("A (x) (y)");

@@ -47,10 +47,11 @@ std::string messageForField(const TextField& field)
   return format(wv_localizedWithDefault("WV.Message.EnterValue", "Enter %@"), {lowercased(placeholder)});
 }
 
-/// The tool tip of the view without the shortcut in parentheses at its end.
-std::string toolTipOf(const ViewHandle& view)
+/// The tool tip of the view without the shortcut in parentheses at its end; nothing when it has none.
+std::optional<std::string> toolTipOf(const ViewHandle& view)
 {
-  std::string toolTip = view ? wv_localizedToolTip(*view).value_or("") : "";
+  const std::string toolTip = view ? wv_localizedToolTip(*view).value_or("") : "";
+  if (toolTip.empty()) return std::nullopt;
   return toolTip.substr(0, toolTip.rfind(" ("));
 }
 
@@ -61,7 +62,7 @@ ImageHandle iconOf(const ViewHandle& view)
 
 std::string spokenIconMessage(const ViewHandle& view)
 {
-  const std::string toolTip = toolTipOf(view);
+  const std::string toolTip = toolTipOf(view).value_or("");
   const std::string name = view ? wv_localizedTitle(*view).value_or("") : "";
   if (name.empty()) return clickToContinue();
   std::string spoken = format(clickOnIcon(), {name});
@@ -156,8 +157,8 @@ AttributedText WVBubbleView::_createAttributedMessageFromTemplate(const std::str
   if (place > 0) result.runs.push_back(textRun(sentence.substr(0, place), font));
   result.runs.push_back(iconRun(image, font));
   if (place + 2 < sentence.size()) result.runs.push_back(textRun(sentence.substr(place + 2), font));
-  if (const std::string toolTip = toolTipOf(forView); !toolTip.empty())
-    result.runs.push_back(textRun(format(" (%@)", {toolTip}), font, Color::secondaryLabel()));
+  if (const auto toolTip = toolTipOf(forView))
+    result.runs.push_back(textRun(format(" (%@)", {*toolTip}), font, Color::secondaryLabel()));
   return result;
 }
 
