@@ -133,6 +133,23 @@ TEST_F(QtLocalization, TextOfTheCurrentLanguageComesFromItsTable)
   EXPECT_EQ(localization.hostString("Notes", "Close"), std::nullopt);
 }
 
+TEST_F(QtLocalization, TextThatTheCurrentLanguageLacksComesFromTheBaseTable)
+{
+  put(QStringLiteral("Base.lproj/Notes.strings"), "\"Open\" = \"Open it\";");
+  put(QStringLiteral("Notes_de.ts"), source("Close", "Zumachen"));
+  QLocale::setDefault(QLocale(QStringLiteral("de_DE")));
+  EXPECT_THAT(localization.hostString("Notes", "Open"), Optional(std::string("Open it")));
+}
+
+TEST_F(QtLocalization, HostsOwnTableRewordsTheFrameworkButNotWithItsKeys)
+{
+  put(QStringLiteral("Base.lproj/Wayvane.strings"),
+      "\"WV.Step.Format\" = \"%lu/%lu\"; \"WV.Menu.RecordGuide\" = \"WV.Menu.RecordGuide\";");
+  QLocale::setDefault(QLocale(QStringLiteral("en_US")));
+  EXPECT_THAT(localization.frameworkString("WV.Step.Format"), Optional(std::string("%lu/%lu")));
+  EXPECT_THAT(localization.frameworkString("WV.Menu.RecordGuide"), Optional(std::string("Record Guide…")));
+}
+
 TEST_F(QtLocalization, InstalledTranslatorWins)
 {
   struct Translator : QTranslator {

@@ -109,7 +109,7 @@ std::optional<std::string> QtLocalization::languageCode() const
 std::optional<std::string> QtLocalization::frameworkString(std::string_view key) const
 {
   // The host's own table wins, so that it can reword what the framework says.
-  if (auto text = hostString("Wayvane", key)) return text;
+  if (auto text = hostString("Wayvane", key); text && *text != key) return text;
   return platform::frameworkText(languageCode().value_or("en"), key);
 }
 
@@ -117,12 +117,11 @@ std::optional<std::string> QtLocalization::hostString(std::string_view table, st
 {
   if (table.empty() || key.empty()) return std::nullopt;
   if (auto text = translated(table, key)) return text;
-  const std::optional<std::string> language = languageCode();
-  if (!language) return std::nullopt;
-  const std::optional<StringTable> texts = hostTable(table, *language);
-  if (!texts) return std::nullopt;
-  const auto found = texts->find(key);
-  return found == texts->end() ? std::nullopt : std::optional(found->second);
+  for (const std::string& language : {languageCode().value_or(""), std::string("Base")}) {
+    const auto texts = hostTable(table, language).value_or(StringTable{});
+    if (const auto found = texts.find(key); found != texts.end()) return found->second;
+  }
+  return std::nullopt;
 }
 
 std::vector<std::string> QtLocalization::hostLocalizations() const
