@@ -25,7 +25,7 @@ std::optional<std::string> guideFileName(std::string_view guideName, platform::E
   name += ".wayvane";
   // The system would take a zero for the end of the path.
   if (name.find('\0') == std::string::npos && !leadsUpward(name)) return name;
-  platform::setError(error, {"WVGuideManager", 1, "The name cannot be that of a file", {}});
+  platform::setError(error, {"wayvane.saving", 1, "The name cannot be that of a file", {}});
   return std::nullopt;
 }
 

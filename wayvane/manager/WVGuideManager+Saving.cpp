@@ -59,7 +59,7 @@ bool WVGuideManager::_saveGuide(const WVGuide& guide, Error* error) const
 {
   const std::string folder = guidesDirectory();
   if (folder.empty()) {
-    platform::setError(error, {"WVGuideManager", 2, "There is no folder for guides", {}});
+    platform::setError(error, {"wayvane.saving", 2, "There is no folder for guides", {}});
     return false;
   }
   const auto fileName = guideFileName(guide.name.value_or(""), error);
