@@ -19,4 +19,8 @@ bool filmGuide(User& user, Pictures& pictures, const std::shared_ptr<wayvane::WV
 /// Records a guide from the Help menu, saves it under `guideName`, finds it in the Help menu and follows it.
 bool filmRecording(User& user, MainWindow& window, Pictures& pictures, const QString& guideName);
 
+/// Takes close-ups of what an author sees while recording: hover display, popover and badge, also at the
+/// edges of the screen.
+bool filmPanels(User& user, MainWindow& window, Pictures& pictures);
+
 } // namespace trailbook

@@ -59,8 +59,13 @@ void User::click(QWidget& widget, QPoint at)
 
 void User::hover(QWidget& widget)
 {
+  hover(widget, widget.rect().center());
+}
+
+void User::hover(QWidget& widget, QPoint at)
+{
   QWidget* const window = widget.window();
-  QTest::mouseMove(window->windowHandle(), widget.mapTo(window, widget.rect().center()));
+  QTest::mouseMove(window->windowHandle(), widget.mapTo(window, at));
 }
 
 void User::type(QWidget& window, const QString& text)
@@ -128,16 +133,16 @@ void User::whenDialogAppears(std::function<void(QDialog&)> handler)
   });
 }
 
-QImage User::picture() const
+QImage User::picture(QRect area) const
 {
-  QRect area = window_.geometry();
   QList<QWidget*> others;
+  QRect everything = window_.geometry();
   for (QWidget* const window : QApplication::topLevelWidgets())
     if (window->isVisible() && window != &window_) {
       others << window;
-      area |= window->geometry();
+      everything |= window->geometry();
     }
-  area.adjust(-8, -8, 8, 8);
+  if (area.isEmpty()) area = everything.adjusted(-8, -8, 8, 8);
   const double ratio = window_.devicePixelRatioF();
   QImage image(area.size() * ratio, QImage::Format_ARGB32_Premultiplied);
   image.setDevicePixelRatio(ratio);

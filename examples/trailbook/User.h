@@ -3,6 +3,7 @@
 #include <QImage>
 #include <QObject>
 #include <QPoint>
+#include <QRect>
 #include <QString>
 #include <QStringList>
 
@@ -30,6 +31,7 @@ public:
   static void click(QWidget& widget);
   static void click(QWidget& widget, QPoint at);
   static void hover(QWidget& widget);
+  static void hover(QWidget& widget, QPoint at);
   /// Types into whatever has the keyboard in the widget's window.
   static void type(QWidget& window, const QString& text);
   static void press(QWidget& window, Qt::Key key);
@@ -48,8 +50,9 @@ public:
   /// Waits for a modal dialog, once, and hands it over. To be called before the act that brings it up.
   void whenDialogAppears(std::function<void(QDialog&)> handler);
 
-  /// What the screen shows of the program: all its windows where they lie.
-  [[nodiscard]] QImage picture() const;
+  /// What the screen shows of the program: all its windows where they lie, or the part of them in `area`
+  /// (global coordinates).
+  [[nodiscard]] QImage picture(QRect area = {}) const;
 
 private:
   QWidget& window_;

@@ -29,6 +29,7 @@ struct Options {
   QString language;
   QStringList guides;
   QDir samples;
+  bool panels = false;
   bool announce = false;
   bool dark = false;
 };
@@ -43,16 +44,17 @@ Options parse(const QApplication& app)
                                  "NAME");
   const QCommandLineOption record("record", "Film how a guide is recorded, saved as NAME and played.",
                                   "NAME");
+  const QCommandLineOption panels("panels", "Film the panels that an author sees while recording.");
   const QCommandLineOption language("language", "The language of program and guides, such as de.", "CODE");
   const QCommandLineOption samples("samples", "The folder with the sample guides.", "DIR",
                                    QApplication::applicationDirPath() + "/guides");
   const QCommandLineOption announce("announce",
                                     "Play the --guide and print where each step's target is on the screen.");
   const QCommandLineOption dark("dark", "Dark colours.");
-  parser.addOptions({film, guide, record, language, samples, announce, dark});
+  parser.addOptions({film, guide, record, panels, language, samples, announce, dark});
   parser.process(app);
-  return {parser.value(film),          parser.value(record),   parser.value(language), parser.values(guide),
-          QDir(parser.value(samples)), parser.isSet(announce), parser.isSet(dark)};
+  return {parser.value(film),          parser.value(record), parser.value(language), parser.values(guide),
+          QDir(parser.value(samples)), parser.isSet(panels), parser.isSet(announce), parser.isSet(dark)};
 }
 
 QPalette darkPalette()
@@ -94,21 +96,32 @@ bool filmLibrary(trailbook::User& user, trailbook::Pictures& pictures, const QSt
   return good;
 }
 
+QString subjectOf(const Options& options)
+{
+  if (options.panels) return "panels";
+  return options.record.isEmpty() ? "guides" : "recording";
+}
+
+bool film(const Options& options, trailbook::MainWindow& window, trailbook::Pictures& pictures)
+{
+  trailbook::User user(window);
+  if (options.panels) return trailbook::filmPanels(user, window, pictures);
+  wayvane::WVPlayer::sharedPlayer().setShowsCircle(true);
+  return options.record.isEmpty() ? filmLibrary(user, pictures, options.guides)
+                                  : trailbook::filmRecording(user, window, pictures, options.record);
+}
+
 int makeFilm(const Options& options, trailbook::MainWindow& window)
 {
   const QString language = options.language.isEmpty() ? QString() : options.language + '-';
   const QString look = options.dark ? "dark" : "light";
-  const QString subject = options.record.isEmpty() ? "guides" : "recording";
-  trailbook::Pictures pictures(
-      QDir(options.film), QString("%1%2-%3x").arg(language, look).arg(window.devicePixelRatio()), subject);
-  trailbook::User user(window);
-  wayvane::WVPlayer::sharedPlayer().setShowsCircle(true);
-  const bool good = options.record.isEmpty()
-                        ? filmLibrary(user, pictures, options.guides)
-                        : trailbook::filmRecording(user, window, pictures, options.record);
+  trailbook::Pictures pictures(QDir(options.film),
+                               QString("%1%2-%3x").arg(language, look).arg(window.devicePixelRatio()),
+                               subjectOf(options));
+  const bool good = film(options, window, pictures);
   pictures.saveContactSheet();
   QTextStream(stdout) << pictures.count() << " pictures in " << options.film
-                      << (good ? "\n" : ", but not every guide was completed\n");
+                      << (good ? "\n" : ", but not all could be taken\n");
   return good && pictures.count() > 0 ? 0 : 1;
 }
 

@@ -57,6 +57,16 @@ TEST_F(RecorderHover, IsHiddenWhileAnAnnotationIsOpen)
   EXPECT_FALSE(hud.isVisible());
 }
 
+TEST_F(RecorderHover, GoesWhenTheAnnotationComesAlsoWithoutAMovement)
+{
+  start();
+  desktop.moveMouse(save.screenCenter());
+  desktop.clickView(save);
+  EXPECT_TRUE(hud.isVisible());
+  desktop.advance(0.1);
+  EXPECT_FALSE(hud.isVisible());
+}
+
 TEST_F(RecorderHover, IsHiddenWhenTheRecordingEnds)
 {
   start();

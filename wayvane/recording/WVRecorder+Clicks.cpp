@@ -62,6 +62,8 @@ void WVRecorder::_annotateClick(const WVStep& step, const Anchor& anchor)
   platform->mainQueue.after(kPopoverDelay, [mine = ticket(), step, anchor] {
     const WVRecorder* const asking = mine.recorderIfSameRecording();
     if (!asking || !asking->recording_) return;
+    // It may lie over the popover, until the next movement would hide it.
+    WVHoverHUD::shared().orderOut();
     WVAnnotationPopover::showAtScreenRect(
         anchor.rect, anchor.window,
         [mine, step](const std::optional<std::string>& title, const std::optional<std::string>& message) {

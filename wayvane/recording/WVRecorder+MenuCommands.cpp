@@ -1,5 +1,6 @@
 #include <wayvane/platform/Platform.h>
 #include <wayvane/recording/WVAnnotationPopover.h>
+#include <wayvane/recording/WVHoverHUD.h>
 #include <wayvane/recording/WVRecorder.h>
 
 #include <algorithm>
@@ -74,6 +75,7 @@ void WVRecorder::_annotateMenuCommand(const WVStep& step)
 {
   const platform::Platform* const platform = platform::Platform::current();
   if (!platform) return;
+  WVHoverHUD::shared().orderOut();
   const platform::WindowHandle key = platform->application.keyWindow();
   WVAnnotationPopover::showAtScreenRect(placeForMenuCommands(platform->screen),
                                         key ? key : platform->application.mainWindow(),

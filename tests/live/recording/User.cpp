@@ -93,8 +93,8 @@ void tap(QWidget& widget)
   if (!window) return;
   const QPoint global = widget.mapToGlobal(widget.rect().center());
   QTest::touchEvent(window, screen).press(0, window->mapFromGlobal(global), window);
-  QWindow* const under = window ? window.data() : QGuiApplication::topLevelAt(global);
-  if (under) QTest::touchEvent(under, screen).release(0, under->mapFromGlobal(global), under);
+  // A touch belongs to the window where it began.
+  if (window) QTest::touchEvent(window, screen).release(0, window->mapFromGlobal(global), window);
 }
 
 void hover(QWidget& widget, QPoint at)

@@ -327,6 +327,23 @@ TEST_F(QtScenePainter, MarkupInATextIsTextAndRightToLeftEndsAtTheRight)
   EXPECT_GT(columns(hebrew).first, 100);
 }
 
+TEST_F(QtScenePainter, SingleLineStandsInTheMiddleAndAParagraphAtTheTop)
+{
+  const LayerHandle text = add(LayerKind::Text, {10, 10, 180, 80});
+  text->setText({{{"H", Font::system(20), Color::rgba(0, 0, 0), nullptr, {}}}});
+  const auto middle = [](const QImage& image) {
+    int first = image.height(), last = -1;
+    for (int y = 0; y < image.height(); ++y)
+      for (int x = 0; x < image.width(); ++x)
+        if (image.pixelColor(x, y).lightness() < 128) first = std::min(first, y), last = std::max(last, y);
+    return (first + last) / 2.0 / image.devicePixelRatio();
+  };
+  EXPECT_LT(middle(drawn()), 30);
+  text->setWrapsText(false);
+  EXPECT_NEAR(middle(drawn()), 50, 1.5);
+  EXPECT_NEAR(middle(drawn(2)), 50, 1.5);
+}
+
 TEST_F(QtScenePainter, PaintsNothingOutsideTheDamage)
 {
   add(LayerKind::Plain, kCanvas)->setBackgroundColor(Color::rgba(1, 0, 0));

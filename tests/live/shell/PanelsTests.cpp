@@ -311,6 +311,15 @@ TEST_F(QtPopover, LiesBelowItsAnchorWithTheArrowAtItsMiddle)
   keepPicture(widget()->grab().toImage(), QStringLiteral("popover"));
 }
 
+TEST_F(QtPopover, KeepsClearOfTheSidesOfTheScreen)
+{
+  const QRect screen = window->screen()->availableGeometry();
+  window->move(screen.right() - 150, 200);
+  spin();
+  show({40, 220, 100, 40});
+  EXPECT_EQ(popover->window()->frame().maxX(), screen.right() + 1 - 4);
+}
+
 TEST_F(QtPopover, LiesAboveItsAnchorWhereThereIsNoRoomBelow)
 {
   const QRect screen = window->screen()->availableGeometry();

@@ -6,21 +6,62 @@
 #include <wayvane/platform/qt/QtWindow.h>
 
 #include <QPushButton>
+#include <QStyleOptionButton>
+#include <QStylePainter>
 
 namespace wayvane::qt {
 
 using platform::Rect;
 
+namespace {
+
+/// A quiet button: a pill that is hardly there until the pointer comes.
+class InlineButton final : public QPushButton {
+public:
+  using QPushButton::QPushButton;
+
+  [[nodiscard]] QSize sizeHint() const override
+  {
+    const QSize text = fontMetrics().size(Qt::TextShowMnemonic, this->text());
+    return {text.width() + 2 * kPadding, text.height() + kPadding};
+  }
+
+protected:
+  void paintEvent(QPaintEvent* /*event*/) override
+  {
+    QStylePainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    QColor pill = palette().color(QPalette::ButtonText);
+    pill.setAlphaF(isDown() ? 0.28F : underMouse() ? 0.2F : 0.12F);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(pill);
+    painter.drawRoundedRect(QRectF(rect()), height() / 2.0, height() / 2.0);
+    painter.drawControl(QStyle::CE_PushButtonLabel, option);
+  }
+
+private:
+  static constexpr int kPadding = 8;
+};
+
+QPushButton* makeButton(const platform::PanelButtonSpec& spec, QWidget& panel)
+{
+  const QString title = toQString(spec.title).replace(u'&', QLatin1String("&&"));
+  return spec.isInline ? new InlineButton(title, &panel) : new QPushButton(title, &panel);
+}
+
+} // namespace
+
 class QtFloatingPanel::Button final : public platform::PanelButton {
 public:
   Button(const platform::PanelButtonSpec& spec, QWidget& panel)
     : title_(spec.title)
-    , button_(new QPushButton(toQString(spec.title).replace(u'&', QLatin1String("&&")), &panel))
+    , button_(makeButton(spec, panel))
   {
     button_->setFont(toQFont(platform::Font::system(platform::kSmallSystemFontSize)));
     button_->setAttribute(Qt::WA_MacSmallSize);
     button_->setFocusPolicy(Qt::NoFocus);
-    button_->setFlat(spec.isInline);
     button_->setAutoDefault(false);
     adopt(*button_);
     // The click may end the panel, and with it the very function that is called.

@@ -110,4 +110,11 @@ bool toolWindowsActivate()
   return name == QLatin1String("offscreen") || name == QLatin1String("minimal");
 }
 
+QColor rimAround(const QColor& background)
+{
+  constexpr int kMiddle = 128;
+  constexpr int kAlpha = 56;
+  return background.lightness() < kMiddle ? QColor(255, 255, 255, kAlpha) : QColor(0, 0, 0, kAlpha);
+}
+
 } // namespace wayvane::qt

@@ -1,6 +1,7 @@
 #pragma once
 
-class QPainter;
+#include <QColor>
+
 class QWidget;
 
 namespace wayvane::qt {
@@ -21,5 +22,9 @@ void exemptFromModality(QWidget& window);
 /// Whether top-level windows of ours must not be of the kind that takes the keyboard: on platforms without a
 /// window manager a tool window becomes the active one however it is shown.
 [[nodiscard]] bool toolWindowsActivate();
+
+/// The colour of the hairline around a window of ours. Few window managers give a window without a frame a
+/// shadow, and over a ground of its own colour it would have no edge.
+[[nodiscard]] QColor rimAround(const QColor& background);
 
 } // namespace wayvane::qt

@@ -70,6 +70,10 @@ void QtPanelWidget::paintEvent(QPaintEvent* event)
     painter.fillPath(shape, color);
   else
     painter.fillRect(rect(), QColor(color.red(), color.green(), color.blue()));
+  painter.setPen(QPen(rimAround(color), 1));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius_ - 0.5,
+                          cornerRadius_ - 0.5);
   driver_.paint(painter, event->region());
 }
 

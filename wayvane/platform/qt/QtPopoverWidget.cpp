@@ -24,6 +24,8 @@ namespace {
 /// Room around the content for the arrow, which is on one side or the other, and the outline.
 constexpr int kArrow = 10;
 constexpr int kCorner = 8;
+/// From the sides of the screen.
+constexpr int kMargin = 4;
 
 } // namespace
 
@@ -84,7 +86,8 @@ void QtPopoverWidget::showAt(const QRectF& anchor, QWidget& owner)
   isArrowOnTop_ = anchor.bottom() + height() <= room.bottom() + 1 || anchor.top() - height() < room.top();
   const double wantedX = anchor.center().x() - width() / 2.0;
   const double wantedY = isArrowOnTop_ ? anchor.bottom() : anchor.top() - height();
-  const int x = std::max(room.left(), std::min(static_cast<int>(wantedX), room.right() + 1 - width()));
+  const int x = std::max(room.left() + kMargin,
+                         std::min(static_cast<int>(wantedX), room.right() + 1 - kMargin - width()));
   const int y = std::max(room.top(), std::min(static_cast<int>(wantedY), room.bottom() + 1 - height()));
   const double reach = kArrow + kCorner + kArrow;
   arrowX_ = std::clamp(anchor.center().x() - x, reach, std::max(reach, width() - reach));
@@ -198,8 +201,9 @@ void QtPopoverWidget::paintEvent(QPaintEvent*)
 {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(palette().color(QPalette::Mid), 1));
-  painter.setBrush(palette().color(QPalette::Window));
+  const QColor background = palette().color(QPalette::Window);
+  painter.setPen(QPen(rimAround(background), 1));
+  painter.setBrush(background);
   painter.drawPath(shape());
 }
 

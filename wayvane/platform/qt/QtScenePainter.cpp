@@ -200,6 +200,18 @@ void QtScenePainter::paintSublayers(const Surroundings& own, const Layer& layer)
     paintLayer(own, *sublayer);
 }
 
+namespace {
+
+/// A paragraph begins at the top; a single line stands in the middle, on whole pixels.
+double roomAbove(const Layer& layer, const QtTextLayout& text, const QPainter& painter)
+{
+  if (layer.wrapsText()) return 0;
+  const double scale = painter.device() ? painter.device()->devicePixelRatioF() : 1;
+  return std::round((boundsOf(layer).height() - text.size().height) / 2 * scale) / scale;
+}
+
+} // namespace
+
 void QtScenePainter::paintOwn(const Surroundings& own, const Layer& layer, const PresentedValues& values)
 {
   if (layer.shadow()) paintShadow(own, layer, values);
@@ -215,7 +227,9 @@ void QtScenePainter::paintOwn(const Surroundings& own, const Layer& layer, const
   if (layer.kind() == LayerKind::Text && !layer.text().isEmpty()) {
     own.painter->save();
     own.painter->setClipRect(boundsOf(layer), Qt::IntersectClip);
-    cache_.layoutOf(layer, own.appearance).draw(*own.painter);
+    const QtTextLayout& text = cache_.layoutOf(layer, own.appearance);
+    own.painter->translate(0, roomAbove(layer, text, *own.painter));
+    text.draw(*own.painter);
     own.painter->restore();
   }
 }
