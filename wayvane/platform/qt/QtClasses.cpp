@@ -113,13 +113,26 @@ ClassInfo describe(const QMetaObject* metaObject)
   info.superClass = metaObject->superClass();
   info.family = familyOf(metaObject);
   info.kinds = kindsOf(info.family);
-  info.isOwn = name.starts_with("WV") || name.starts_with("wayvane::qt::");
+  info.isOwn = name.starts_with("wayvane::qt::");
   info.isHost = !info.isOwn && !isToolkitName(name);
   info.declaresHostProperties = declaresHostProperties(metaObject);
   info.isToolButton = metaObject->inherits(&QToolButton::staticMetaObject);
   info.features = featuresOf(info);
   return info;
 }
+
+} // namespace
+
+void ClassInfo::findInAncestry(const void* other) const
+{
+  const QMetaObject* m = metaObject;
+  while (m && m != other)
+    m = m->superClass();
+  askedClass_ = other;
+  isAskedClass_ = m != nullptr;
+}
+
+namespace {
 
 /// The known classes, and the table that finds them.
 class KnownClasses {

@@ -104,8 +104,8 @@ private:
 [[nodiscard]] platform::ViewHandle viewForWidget(QWidget* widget);
 /// The widget behind a view of this binding; null for another's, or when it is gone.
 [[nodiscard]] QWidget* widgetOf(const platform::View& view);
-/// Whether the widget is the framework's own (its class lives in the namespace wayvane::qt or begins with
-/// "WV", or it has the property "wv_own"). Searches and hit tests pass over those.
+/// Whether the widget is the framework's own (its class lives in the namespace wayvane::qt, or it has the
+/// property "wv_own"). Searches and hit tests pass over those.
 [[nodiscard]] bool isOwnWidget(const QWidget* widget);
 
 } // namespace wayvane::qt
