@@ -87,9 +87,9 @@ Rect QtTableView::convertRectToWindow(const Rect& rect) const
 
 Rect QtTableView::rectOfRow(int row) const
 {
-  const QAbstractItemView* view = itemView();
   const QModelIndex index = indexAt(0, row);
-  if (!index.isValid()) return {};
+  const QAbstractItemView* view = itemView();
+  if (!view || !index.isValid()) return {};
   QRect rect = view->visualRect(index);
   if (rect.isEmpty()) return {};
   rect.translate(scrollOffset(*view));
@@ -103,8 +103,9 @@ Rect QtTableView::rectOfRow(int row) const
 Rect QtTableView::frameOfCell(int column, int row) const
 {
   const QModelIndex index = indexAt(column, row);
-  const QRect rect = index.isValid() ? itemView()->visualRect(index) : QRect();
-  return rect.isEmpty() ? Rect{} : toRect(QRectF(rect.translated(scrollOffset(*itemView()))));
+  const QAbstractItemView* view = itemView();
+  const QRect rect = view && index.isValid() ? view->visualRect(index) : QRect();
+  return rect.isEmpty() ? Rect{} : toRect(QRectF(rect.translated(scrollOffset(*view))));
 }
 
 void QtTableView::layoutIfNeeded() const

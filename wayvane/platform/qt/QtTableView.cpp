@@ -117,13 +117,15 @@ QModelIndex QtTableView::indexAtPoint(Point point) const
 int QtTableView::rowAtPoint(Point point) const
 {
   const QModelIndex index = indexAtPoint(point);
-  return index.isValid() ? rows_.rowOfIndex(*itemView(), index) : -1;
+  const QAbstractItemView* view = itemView();
+  return view && index.isValid() ? rows_.rowOfIndex(*view, index) : -1;
 }
 
 int QtTableView::columnAtPoint(Point point) const
 {
   const QModelIndex index = indexAtPoint(point);
-  return index.isValid() ? shownColumn(*itemView(), index.column()) : -1;
+  const QAbstractItemView* view = itemView();
+  return view && index.isValid() ? shownColumn(*view, index.column()) : -1;
 }
 
 // Cells
@@ -132,7 +134,8 @@ platform::ViewHandle QtTableView::viewAtColumnRow(int column, int row,
                                                   platform::MakeIfNecessary /*make*/) const
 {
   const QModelIndex index = indexAt(column, row);
-  return index.isValid() ? viewForWidget(itemView()->indexWidget(index)) : nullptr;
+  const QAbstractItemView* view = itemView();
+  return view && index.isValid() ? viewForWidget(view->indexWidget(index)) : nullptr;
 }
 
 QModelIndex QtTableView::indexHolding(const platform::View& view) const
@@ -147,25 +150,30 @@ QModelIndex QtTableView::indexHolding(const platform::View& view) const
 int QtTableView::rowForView(const platform::View& view) const
 {
   const QModelIndex index = indexHolding(view);
-  return index.isValid() ? rows_.rowOfIndex(*itemView(), index) : -1;
+  const QAbstractItemView* items = itemView();
+  return items && index.isValid() ? rows_.rowOfIndex(*items, index) : -1;
 }
 
 int QtTableView::columnForView(const platform::View& view) const
 {
   const QModelIndex index = indexHolding(view);
-  return index.isValid() ? shownColumn(*itemView(), index.column()) : -1;
+  const QAbstractItemView* items = itemView();
+  return items && index.isValid() ? shownColumn(*items, index.column()) : -1;
 }
 
 std::optional<platform::TableCell> QtTableView::preparedCell(int column, int row) const
 {
   const QModelIndex index = indexAt(column, row);
-  if (!index.isValid()) return std::nullopt;
+  const QAbstractItemView* view = itemView();
+  if (!view || !index.isValid()) return std::nullopt;
+  // The model is the host's: it may do anything when asked, even end the view.
+  const QSize iconSize = view->iconSize();
   platform::TableCell cell;
   cell.stringValue = toUtf8(index.data(Qt::DisplayRole).toString());
   cell.accessibilityLabel = toOptional(index.data(Qt::AccessibleTextRole).toString());
   const QVariant picture = index.data(Qt::DecorationRole);
   if (picture.typeId() == QMetaType::QIcon) {
-    cell.image = QtImage::make(picture.value<QIcon>(), itemView()->iconSize());
+    cell.image = QtImage::make(picture.value<QIcon>(), iconSize);
   } else if (picture.typeId() == QMetaType::QPixmap || picture.typeId() == QMetaType::QImage) {
     cell.image = QtImage::make(picture.value<QPixmap>());
   }
