@@ -245,7 +245,9 @@ TEST_F(Player, StopTakesTheBubbleAwayWithoutFading)
 {
   addButton("save");
   playAndShow({"save"});
+  desktop.advance(3);
   const std::shared_ptr<WVBubbleView> bubble = player->currentBubble();
+  ASSERT_NE(bubble->superview(), nullptr);
   player->stop();
   EXPECT_EQ(bubble->superview(), nullptr);
 }
@@ -392,6 +394,19 @@ TEST(PlayerWithoutPlatform, DoesNothing)
   player.stop();
   EXPECT_FALSE(player.isPlaying());
   EXPECT_EQ(player.guide(), nullptr);
+}
+
+TEST_F(Player, ThePointerLeavesThePerformedTargetAndNotTheNextOne)
+{
+  const sim::Button& save = addButton("save");
+  const sim::Button& open = addButton("open", {100, 100, 80, 24});
+  playAndShow({"save", "open"});
+  performStep(save);
+  desktop.advance(0.5);
+  ASSERT_EQ(save.hoverEvents().size(), 2U);
+  EXPECT_EQ(save.hoverEvents().back().type, platform::HoverEvent::Type::Exited);
+  ASSERT_EQ(open.hoverEvents().size(), 1U);
+  EXPECT_EQ(open.hoverEvents().back().type, platform::HoverEvent::Type::Entered);
 }
 
 } // namespace
