@@ -1,4 +1,5 @@
 #include <tests/desktop/Desktop.h>
+#include <wayvane/recording/HoverText.h>
 #include <wayvane/recording/WVHoverHUD.h>
 
 #include <gmock/gmock.h>
@@ -89,6 +90,19 @@ TEST_F(HoverHUD, WithoutATableRowThereAreNoTableLines)
   EXPECT_THAT(text(), testing::Not(testing::HasSubstr("Table row")));
   EXPECT_THAT(text(), testing::Not(testing::HasSubstr("Cell")));
   EXPECT_THAT(text(), testing::Not(testing::HasSubstr("Object")));
+}
+
+TEST(HoverText, OutsideATableRowCellAndObjectAreNotShownEvenWhenTheyAreKnown)
+{
+  WVTargetDescriptor descriptor;
+  descriptor.accessibilityIdentifier = "list";
+  descriptor.tableColumnIdentifier = "size";
+  descriptor.cellIdentifier = "cell";
+  descriptor.objectIdentifier = "uuid:B2";
+  EXPECT_EQ(hoverTextFor("NSView", descriptor), "NSView\nID: list");
+  descriptor.tableRow = 0;
+  EXPECT_EQ(hoverTextFor("NSView", descriptor),
+            "NSView\nID: list\nTable row: 0 col: size\nCell: cell\nObject: uuid:B2");
 }
 
 TEST_F(HoverHUD, ATableRowShowsColumnCellAndObject)

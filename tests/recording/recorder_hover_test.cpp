@@ -89,6 +89,17 @@ TEST_F(RecorderHover, ShowsNothingWhileNothingIsRecorded)
   EXPECT_FALSE(hud.isVisible());
 }
 
+TEST_F(RecorderHover, StaysAsItIsWhenAMovementNamesItsOwnPanel)
+{
+  start();
+  desktop.moveMouse(save.screenCenter());
+  const Rect before = hud.frame();
+  desktop.events().setMouseLocation({5, 5});
+  desktop.events().send({platform::MouseEvent::Type::MouseMoved, hud.window(), {1, 1}, false});
+  EXPECT_TRUE(hud.isVisible());
+  EXPECT_EQ(hud.frame(), before);
+}
+
 TEST_F(RecorderHover, ItsOwnPanelIsNoWindowToRecord)
 {
   start();

@@ -44,6 +44,15 @@ TEST_F(RecorderMenu, ThePathNamesEveryMenuOnTheWay)
   EXPECT_EQ(steps()[0].target.menuPath, "File > Export > PDF…");
 }
 
+TEST_F(RecorderMenu, AMenuWithoutATitleHasItsPlaceInThePath)
+{
+  sim::MenuItem& quit = desktop.mainMenu().menu("").item("Quit", "quit:");
+  start();
+  desktop.chooseItem(quit);
+  addStep();
+  EXPECT_EQ(steps()[0].target.menuPath, " > Quit");
+}
+
 TEST_F(RecorderMenu, ACommandWithoutActionIsRecordedWithoutOne)
 {
   sim::MenuItem& plain = desktop.mainMenu().menu("File").item("Plain");

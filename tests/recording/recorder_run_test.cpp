@@ -1,5 +1,7 @@
 #include "RecorderFixture.h"
 
+#include <stdexcept>
+
 namespace wayvane {
 namespace {
 
@@ -181,6 +183,18 @@ TEST_F(RecorderRun, ADelegateMayOverrideNothing)
   start();
   recordClick(save);
   EXPECT_EQ(recorder->stopRecording()->steps.size(), 1u);
+}
+
+TEST_F(RecorderRun, ADelegateThatThrowsHoldsNothingUp)
+{
+  delegate->onStep = delegate->onFinish = [] { throw std::runtime_error("out of order"); };
+  start();
+  recordClick(save);
+  EXPECT_EQ(recorder->stopRecording()->steps.size(), 1u);
+  EXPECT_FALSE(recorder->isRecording());
+  start();
+  EXPECT_TRUE(recorder->isRecording());
+  EXPECT_THAT(desktop.log(), testing::Contains("WVRecorder: the host threw: out of order").Times(2));
 }
 
 TEST_F(RecorderRun, TheDelegateIsNotKeptAlive)

@@ -58,9 +58,11 @@ bool Question::ask(platform::Platform& platform, const WindowHandle& window, con
 {
   popover_ = platform.panels.makePopover(spec());
   if (!popover_->show(window, anchor)) {
+    // It may have been shown and closed again meanwhile, which was an answer.
+    const bool hasAnswered = !completion_;
     completion_ = nullptr;
     giveBackPopover();
-    return false;
+    return hasAnswered;
   }
   // The popover's window takes the keyboard only in a later turn.
   platform.mainQueue.async([weak = weak_from_this()] {

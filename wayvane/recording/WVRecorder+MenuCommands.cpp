@@ -42,9 +42,9 @@ std::vector<std::string> titlesLeadingTo(MenuItemHandle item)
 
 std::string joined(const std::vector<std::string>& titles)
 {
-  std::string path;
-  for (const std::string& title : titles)
-    path += (path.empty() ? "" : " > ") + title;
+  std::string path = titles.front();
+  for (std::size_t i = 1; i < titles.size(); ++i)
+    path += " > " + titles[i];
   return path;
 }
 

@@ -1,4 +1,5 @@
 #include <wayvane/platform/Format.h>
+#include <wayvane/platform/HostCall.h>
 #include <wayvane/platform/Platform.h>
 #include <wayvane/recording/WVHitTestEvent.h>
 #include <wayvane/recording/WVHoverHUD.h>
@@ -95,7 +96,8 @@ std::shared_ptr<WVGuide> WVRecorder::stopRecording()
   if (finishing_ == recordingNumber_) return guide;
   const std::weak_ptr<WVRecorder*> life = life_;
   const auto outer = std::exchange(finishing_, recordingNumber_);
-  if (const auto told = delegate()) told->recorderDidFinishWithGuide(guide);
+  if (const auto told = delegate())
+    platform::callHost("WVRecorder", [&] { told->recorderDidFinishWithGuide(guide); });
   if (!life.expired()) finishing_ = outer;
   return guide;
 }
@@ -112,7 +114,8 @@ void WVRecorder::_appendStep(WVStep step)
   guide_->steps.push_back(std::move(step));
   _updateBadge();
   const std::uint64_t index = guide_->steps.size() - 1;
-  if (const auto told = delegate()) told->recorderDidCaptureStep(index);
+  if (const auto told = delegate())
+    platform::callHost("WVRecorder", [&] { told->recorderDidCaptureStep(index); });
 }
 
 void WVRecorder::_updateBadge() const

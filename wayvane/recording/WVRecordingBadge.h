@@ -24,6 +24,9 @@ public:
 
   [[nodiscard]] bool isVisible() const { return panel_->isVisible(); }
 
+  /// Its buttons work without taking the keyboard from the program.
+  [[nodiscard]] static bool canBecomeKeyWindow() { return false; }
+
   /// In screen coordinates.
   [[nodiscard]] platform::Rect frame() const { return panel_->frame(); }
 
