@@ -11,6 +11,8 @@
 #include <QTimerEvent>
 #include <QWindow>
 
+#include <algorithm>
+
 namespace wayvane::qt {
 
 namespace {
@@ -157,9 +159,10 @@ void QtOverlayWidget::windowChanged(QEvent::Type type)
 bool QtOverlayWidget::isOnTop() const
 {
   const QObjectList& siblings = parentWidget()->children();
-  for (auto it = siblings.rbegin(); it != siblings.rend(); ++it)
-    if ((*it)->isWidgetType() && !static_cast<QWidget*>(*it)->isWindow()) return *it == this;
-  return true;
+  const auto topmost = std::find_if(siblings.rbegin(), siblings.rend(), [](const QObject* child) {
+    return child->isWidgetType() && !static_cast<const QWidget*>(child)->isWindow();
+  });
+  return topmost == siblings.rend() || *topmost == this;
 }
 
 void QtOverlayWidget::raiseSoon()

@@ -12,7 +12,6 @@
 namespace wayvane::qt {
 
 using platform::Point;
-using platform::Rect;
 using platform::ViewKind;
 
 QAbstractItemView* QtTableView::itemView() const
