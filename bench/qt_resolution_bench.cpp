@@ -2,7 +2,10 @@
 // toolkit's own search. Ten rows of fields and buttons in a frame, as programs have them; the search misses,
 // which is its longest way.
 
+#include <wayvane/model/WVTargetDescriptor.h>
+#include <wayvane/platform/qt/QtPlatform.h>
 #include <wayvane/platform/qt/QtView.h>
+#include <wayvane/platform/qt/QtWindow.h>
 #include <wayvane/targeting/ViewFinding.h>
 
 #include <QApplication>
@@ -17,10 +20,10 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
+#include <string>
 
 namespace {
-
-using wayvane::platform::SearchText;
 
 constexpr int kWidgetsInAFrame = 41;
 
@@ -98,43 +101,76 @@ void SearchThatAsksNothing(benchmark::State& state)
   });
 }
 
+/// A search of a window for an element that has a clue, as a guide's step makes it.
+void searchFor(benchmark::State& state, const wayvane::WVTargetDescriptor& descriptor)
+{
+  searchWindow(state, [&](QWidget& window) {
+    return descriptor.resolveInWindow(wayvane::qt::windowForWidget(&window));
+  });
+}
+
+void searchFor(benchmark::State& state, std::optional<std::string> wayvane::WVTargetDescriptor::*clue,
+               const char* text)
+{
+  wayvane::WVTargetDescriptor descriptor;
+  descriptor.*clue = text;
+  searchFor(state, descriptor);
+}
+
 void SearchByIdentifier(benchmark::State& state)
 {
-  const SearchText text("nowhere");
-  searchWindow(state, [&](QWidget& window) {
-    const auto view = wayvane::qt::viewForWidget(&window);
-    return wayvane::wv_viewWithAccessibilityIdentifier(*view, text);
-  });
+  searchFor(state, &wayvane::WVTargetDescriptor::accessibilityIdentifier, "nowhere");
+}
+
+void SearchByBoundIdentifier(benchmark::State& state)
+{
+  searchFor(state, &wayvane::WVTargetDescriptor::accessibilityIdentifier, "binding:value:nowhere");
+}
+
+void SearchByBinding(benchmark::State& state)
+{
+  searchFor(state, &wayvane::WVTargetDescriptor::bindingInfo, "value:nowhere");
 }
 
 void SearchByAction(benchmark::State& state)
 {
-  const SearchText text("nowhere:");
-  searchWindow(state, [&](QWidget& window) {
-    return wayvane::wv_viewWithAction(*wayvane::qt::viewForWidget(&window), text);
-  });
+  searchFor(state, &wayvane::WVTargetDescriptor::action, "nowhere:");
 }
 
 void SearchByTitle(benchmark::State& state)
 {
-  const SearchText text("Nowhere");
-  searchWindow(state, [&](QWidget& window) {
-    return wayvane::wv_viewWithTitle(*wayvane::qt::viewForWidget(&window), text);
-  });
+  searchFor(state, &wayvane::WVTargetDescriptor::title, "Nowhere");
+}
+
+void SearchByClass(benchmark::State& state)
+{
+  searchFor(state, &wayvane::WVTargetDescriptor::className, "QSlider");
+}
+
+void SearchForTableRow(benchmark::State& state)
+{
+  wayvane::WVTargetDescriptor descriptor;
+  descriptor.tableRow = 3;
+  searchFor(state, descriptor);
 }
 
 BENCHMARK(BareWalk)->Arg(1000)->Arg(10000);
 BENCHMARK(ToolkitsFindChild)->Arg(1000)->Arg(10000);
 BENCHMARK(SearchThatAsksNothing)->Arg(1000)->Arg(10000);
 BENCHMARK(SearchByIdentifier)->Arg(1000)->Arg(10000);
+BENCHMARK(SearchByBoundIdentifier)->Arg(1000)->Arg(10000);
+BENCHMARK(SearchByBinding)->Arg(1000)->Arg(10000);
 BENCHMARK(SearchByAction)->Arg(1000)->Arg(10000);
 BENCHMARK(SearchByTitle)->Arg(1000)->Arg(10000);
+BENCHMARK(SearchByClass)->Arg(1000)->Arg(10000);
+BENCHMARK(SearchForTableRow)->Arg(1000)->Arg(10000);
 
 } // namespace
 
 int main(int argc, char** argv)
 {
   QApplication application(argc, argv);
+  if (!wayvane::qt::installPlatform()) return 1;
   benchmark::Initialize(&argc, argv);
   benchmark::RunSpecifiedBenchmarks();
 }

@@ -203,9 +203,11 @@ bool IdentifierQuery::matches(const View& view) const
 
 bool IdentifierQuery::matchesOtherName(const View& view) const
 {
-  if (const auto given = view.hostString(HostProperty::GuideIdentifier)) return *given == text_.utf8();
-  if (isFieldEditor(view)) return wv_guideIdentifier(view) == text_.utf8();
-  return keyPathOfValue_ && isText(view) && view.observedKeyPathEquals("value", *keyPathOfValue_);
+  if (view.mayHave({Feature::HostAnswers, Feature::FieldEditor})) {
+    if (const auto given = view.hostString(HostProperty::GuideIdentifier)) return *given == text_.utf8();
+    if (isFieldEditor(view)) return wv_guideIdentifier(view) == text_.utf8();
+  }
+  return keyPathOfValue_ && view.observedKeyPathEquals("value", *keyPathOfValue_) && isText(view);
 }
 
 bool WVIsMeaningfulIdentifier(const std::optional<std::string>& identifier)

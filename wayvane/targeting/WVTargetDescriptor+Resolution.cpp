@@ -55,10 +55,29 @@ std::optional<Binding> bindingFromInfo(const std::optional<std::string>& info)
   return Binding{text.substr(0, colon), SearchText(text.substr(colon + 1))};
 }
 
+/// The items of a window's toolbar, asked for when a strategy first needs them: few do, and a toolkit may
+/// have to look for them all over the window.
+class Toolbar {
+public:
+  explicit Toolbar(const platform::Window& window)
+    : window_(window)
+  {}
+
+  [[nodiscard]] const std::vector<platform::ToolbarItem>& items() const
+  {
+    if (!items_) items_ = window_.toolbarItems();
+    return *items_;
+  }
+
+private:
+  const platform::Window& window_;
+  mutable std::optional<std::vector<platform::ToolbarItem>> items_;
+};
+
 /// One window, as the strategies look at it.
 struct Place {
   const View& content;
-  const std::vector<platform::ToolbarItem>& toolbar;
+  const Toolbar& toolbar;
 };
 
 /// The search for one descriptor. Everything that can be prepared is, once, so that the walks over the views
@@ -77,7 +96,7 @@ public:
 
   [[nodiscard]] ViewHandle inWindow(const platform::Window& window) const
   {
-    const auto toolbar = window.toolbarItems();
+    const Toolbar toolbar(window);
     if (auto view = ofToolbarItem(toolbar)) return view;
     const auto content = window.contentView();
     if (!content) return nullptr;
@@ -91,10 +110,10 @@ public:
   }
 
 private:
-  [[nodiscard]] ViewHandle ofToolbarItem(const std::vector<platform::ToolbarItem>& toolbar) const
+  [[nodiscard]] ViewHandle ofToolbarItem(const Toolbar& toolbar) const
   {
     if (!descriptor_.toolbarItemIdentifier) return nullptr;
-    for (const auto& item : toolbar) {
+    for (const auto& item : toolbar.items()) {
       if (item.view && item.itemIdentifier == descriptor_.toolbarItemIdentifier) return item.view;
     }
     return nullptr;
@@ -128,7 +147,7 @@ private:
     if (!action_) return nullptr;
     if (class_) return byActionAndClass(place);
     if (auto view = wv_viewWithAction(place.content, *action_)) return view;
-    for (const auto& item : place.toolbar) {
+    for (const auto& item : place.toolbar.items()) {
       if (auto view = item.view ? wv_viewWithAction(*item.view, *action_) : nullptr) return view;
     }
     return nullptr;
@@ -139,7 +158,7 @@ private:
   {
     std::vector<ViewHandle> senders;
     collectViewsWithAction(place.content, *action_, senders);
-    for (const auto& item : place.toolbar) {
+    for (const auto& item : place.toolbar.items()) {
       if (item.view) collectViewsWithAction(*item.view, *action_, senders);
     }
     if (senders.empty()) return nullptr;

@@ -52,6 +52,12 @@ QStringView shownCaption(QStringView caption, CaptionBuffer& buffer)
   return caption.contains(QLatin1String("(&")) ? shown.trimmed() : shown;
 }
 
+/// What is shown of a caption is never longer than the caption.
+bool canShow(QStringView caption, const platform::SearchText& wanted)
+{
+  return caption.size() >= viewOf(wanted.utf16()).size();
+}
+
 } // namespace
 
 std::string toUtf8(QStringView text)
@@ -85,12 +91,14 @@ QString withoutMnemonic(const QString& caption)
 
 bool captionEquals(QStringView caption, const platform::SearchText& wanted)
 {
+  if (!canShow(caption, wanted)) return false;
   CaptionBuffer buffer;
   return equals(shownCaption(caption, buffer), wanted);
 }
 
 bool captionEqualsWithoutColon(QStringView caption, const platform::SearchText& wanted)
 {
+  if (!canShow(caption, wanted)) return false;
   CaptionBuffer buffer;
   return equals(withoutColon(shownCaption(caption, buffer)), wanted);
 }

@@ -1,12 +1,11 @@
 #include <wayvane/platform/qt/Conversions.h>
 #include <wayvane/platform/qt/QtBindings.h>
+#include <wayvane/platform/qt/QtDescendants.h>
 #include <wayvane/platform/qt/QtHostProperties.h>
-#include <wayvane/platform/qt/QtObjectWatch.h>
 
 #include <QAbstractItemModel>
 #include <QDataWidgetMapper>
 #include <QMetaProperty>
-#include <QPointer>
 #include <QWidget>
 
 #include <vector>
@@ -15,22 +14,26 @@ namespace wayvane::qt {
 
 namespace {
 
-struct WindowMappers {
-  const QWidget* window = nullptr;
-  std::uint64_t generation = 0;
-  std::vector<QPointer<const QDataWidgetMapper>> mappers;
-};
-
-const std::vector<QPointer<const QDataWidgetMapper>>& mappersIn(const QWidget& window)
+const std::vector<QPointer<QDataWidgetMapper>>& mappersIn(const QWidget& window)
 {
-  static WindowMappers last;
+  return descendantsOf<QDataWidgetMapper>(window);
+}
+
+/// Whether there are mappers in the widget's window.
+bool mayBeMapped(const QWidget& widget)
+{
+  // A search asks about one child after the other, and the way up to the window is long.
+  static const QWidget* lastParent = nullptr;
+  static std::uint64_t lastGeneration = 0;
+  static bool lastAnswer = false;
   const std::uint64_t generation = childGeneration();
-  if (last.window != &window || last.generation != generation || generation == 0) {
-    last = {&window, generation, {}};
-    for (const QDataWidgetMapper* mapper : window.findChildren<QDataWidgetMapper*>())
-      last.mappers.emplace_back(mapper);
+  const QWidget* parent = widget.isWindow() ? nullptr : widget.parentWidget();
+  if (!parent || parent != lastParent || generation != lastGeneration || generation == 0) {
+    lastAnswer = !mappersIn(*widget.window()).empty();
+    lastParent = parent;
+    lastGeneration = generation;
   }
-  return last.mappers;
+  return lastAnswer;
 }
 
 /// Whether what the mapper writes is what the framework calls the value of the widget.
@@ -70,7 +73,7 @@ std::optional<std::string> declaredKeyPath(const QWidget& widget, const ClassInf
 
 bool mayHaveBindings(const QWidget& widget, const ClassInfo& info)
 {
-  return mayHaveHostProperties(widget, info) || !mappersIn(*widget.window()).empty();
+  return mayHaveHostProperties(widget, info) || mayBeMapped(widget);
 }
 
 std::optional<std::string> keyPathOfBinding(const QWidget& widget, const ClassInfo& info,

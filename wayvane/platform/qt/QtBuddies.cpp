@@ -24,7 +24,10 @@ struct Buddy {
   [[nodiscard]] auto key() const { return std::tie(widget, order); }
 };
 
-/// Those that the children of one widget name.
+/// So few are faster gone through than sorted.
+constexpr std::size_t kMostInOrder = 32;
+
+/// Those that the children of one widget name; sorted when they are many.
 struct Buddies {
   const QWidget* parent = nullptr;
   std::uint64_t memory = 0;
@@ -39,6 +42,7 @@ void collect(const QWidget& parent, std::vector<Buddy>& list)
     const auto* label = static_cast<const QLabel*>(child);
     if (const QWidget* buddy = label->buddy()) list.push_back({buddy, list.size(), label});
   }
+  if (list.size() <= kMostInOrder) return;
   std::sort(list.begin(), list.end(), [](const Buddy& a, const Buddy& b) { return a.key() < b.key(); });
 }
 
@@ -61,6 +65,11 @@ const QLabel* labelOf(const QWidget& widget)
   const QWidget* parent = widget.parentWidget();
   if (!parent) return nullptr;
   const std::vector<Buddy>& buddies = buddiesIn(*parent);
+  if (buddies.size() <= kMostInOrder) {
+    for (const Buddy& buddy : buddies)
+      if (buddy.widget == &widget) return buddy.label;
+    return nullptr;
+  }
   const auto found =
       std::lower_bound(buddies.begin(), buddies.end(), &widget,
                        [](const Buddy& buddy, const QWidget* wanted) { return buddy.widget < wanted; });

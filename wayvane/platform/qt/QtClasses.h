@@ -45,6 +45,19 @@ struct ClassInfo {
   platform::Features features;
 
   [[nodiscard]] bool is(platform::ViewKind kind) const { return (kinds >> static_cast<unsigned>(kind)) & 1U; }
+
+  /// Whether it is that class or a subclass. Remembers the answer, since a search asks for one class only.
+  [[nodiscard]] bool isOrInherits(const void* other) const
+  {
+    if (other != askedClass_) findInAncestry(other);
+    return isAskedClass_;
+  }
+
+private:
+  void findInAncestry(const void* other) const;
+
+  mutable const void* askedClass_ = nullptr;
+  mutable bool isAskedClass_ = false;
 };
 
 namespace detail {

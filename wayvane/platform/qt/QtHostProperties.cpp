@@ -23,9 +23,4 @@ QVariant hostValue(const QObject& object, const char* name)
   return carriesHostProperties(object) ? object.property(name) : QVariant();
 }
 
-bool isGivenName(QStringView objectName)
-{
-  return !objectName.isEmpty() && !objectName.startsWith(u"qt_") && !objectName.startsWith(u"_q_");
-}
-
 } // namespace wayvane::qt

@@ -31,7 +31,14 @@ namespace wayvane::qt {
 
 /// The same for objects of which only dynamic properties count.
 [[nodiscard]] QVariant hostValue(const QObject& object, const char* name);
+
 /// Whether somebody chose this object name; the toolkit's own ("qt_...", "_q_...") are as good as none.
-[[nodiscard]] bool isGivenName(QStringView objectName);
+[[nodiscard]] inline bool isGivenName(QStringView objectName)
+{
+  if (objectName.isEmpty()) return false;
+  const QChar first = objectName.front();
+  if (first != u'q' && first != u'_') return true;
+  return !objectName.startsWith(u"qt_") && !objectName.startsWith(u"_q_");
+}
 
 } // namespace wayvane::qt

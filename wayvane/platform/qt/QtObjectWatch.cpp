@@ -12,6 +12,7 @@
 namespace wayvane::qt {
 
 detail::HostPropertyWatch detail::hostPropertyWatch;
+std::uint64_t detail::childGeneration = 0;
 
 namespace {
 
@@ -22,7 +23,7 @@ public:
   {
     collectCarriers();
     detail::hostPropertyWatch.isComplete = true;
-    ++generation;
+    ++detail::childGeneration;
     application->installEventFilter(this);
   }
 
@@ -33,7 +34,7 @@ public:
     switch (event->type()) {
     case QEvent::ChildAdded:
     case QEvent::ChildRemoved:
-      ++generation;
+      ++detail::childGeneration;
       break;
     case QEvent::DynamicPropertyChange:
       noteProperty(receiver, static_cast<QDynamicPropertyChangeEvent*>(event)->propertyName());
@@ -45,9 +46,6 @@ public:
   }
 
   [[nodiscard]] bool knows(const QObject& object) const { return carriers_.contains(&object); }
-
-  // Goes on counting where an earlier watch ended, for programs that make a second application object.
-  static inline std::uint64_t generation = 0;
 
 private:
   void noteProperty(const QObject* receiver, const QByteArray& name)
@@ -86,14 +84,9 @@ const ObjectWatch* currentWatch()
 
 } // namespace
 
-std::uint64_t childGeneration()
+void detail::beginWatch()
 {
-  return currentWatch() ? ObjectWatch::generation : 0;
-}
-
-void watchHostProperties()
-{
-  if (!detail::hostPropertyWatch.isComplete) currentWatch();
+  currentWatch();
 }
 
 bool detail::isKnownCarrier(const QWidget& widget)

@@ -56,11 +56,7 @@ bool QtView::classNameEquals(std::string_view name) const
 
 bool QtView::isOfClass(platform::ViewClass viewClass) const
 {
-  const QWidget* w = widget();
-  const QMetaObject* m = w ? w->metaObject() : nullptr;
-  while (m && m != viewClass.identity)
-    m = m->superClass();
-  return m != nullptr;
+  return viewClass.identity && isAlive() && info_->isOrInherits(viewClass.identity);
 }
 
 platform::ViewClass QtView::viewClass() const

@@ -1,5 +1,6 @@
 #include <wayvane/platform/qt/Conversions.h>
 #include <wayvane/platform/qt/QtActions.h>
+#include <wayvane/platform/qt/QtDescendants.h>
 #include <wayvane/platform/qt/QtHostProperties.h>
 #include <wayvane/platform/qt/QtView.h>
 #include <wayvane/platform/qt/QtWindow.h>
@@ -95,8 +96,8 @@ std::vector<QToolBar*> toolBarsOf(QWidget& window)
 {
   std::vector<QToolBar*> bars;
   if (auto* floating = qobject_cast<QToolBar*>(&window)) bars.push_back(floating);
-  for (QToolBar* bar : window.findChildren<QToolBar*>())
-    if (bar->window() == &window && !isOwnWidget(bar)) bars.push_back(bar);
+  for (const auto& bar : descendantsOf<QToolBar>(window))
+    if (bar && bar->window() == &window && !isOwnWidget(bar)) bars.push_back(bar);
   std::stable_sort(bars.begin(), bars.end(), isShownBefore);
   return bars;
 }
