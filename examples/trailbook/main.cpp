@@ -20,7 +20,6 @@
 
 namespace {
 
-using wayvane::WVGuide;
 using wayvane::WVGuideManager;
 
 struct Options {

@@ -81,7 +81,8 @@ bool QtView::visitSubviews(platform::FunctionRef<bool(const platform::View&)> vi
   const QWidget* w = widget();
   if (!w) return true;
   const QObjectList& children = w->children();
-  for (qsizetype i = 0; i < children.size(); ++i) {
+  // What a visitor asks may be answered by the host, who may well add or remove children meanwhile.
+  for (qsizetype i = 0; i < children.size(); ++i) { // NOLINT(modernize-loop-convert)
     if (!children[i]->isWidgetType()) continue;
     auto* child = static_cast<QWidget*>(children[i]);
     if (!child->isWindow() && !visit(*child, visitor)) return false;
