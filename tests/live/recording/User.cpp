@@ -58,15 +58,16 @@ void click(QWidget& widget)
   click(widget, widget.rect().center());
 }
 
-void doubleClick(QWidget& widget, QPoint at)
+void doubleClick(QWidget& widget, QPoint at, int pause)
 {
   const QPointer<QWindow> window = windowBehind(widget);
   if (!window) return;
   const QPoint global = widget.mapToGlobal(at);
   click(widget, at);
+  if (pause > 0) wait(pause);
   QWindow* const under = window ? window.data() : QGuiApplication::topLevelAt(global);
   if (!under) return;
-  // The second press follows at once.
+  // QTest lets time pass after a release, so that no double click comes about by accident.
   QTest::lastMouseTimestamp -= QTest::mouseDoubleClickInterval;
   const QPointer<QWindow> stillThere = under;
   QTest::mousePress(under, Qt::LeftButton, {}, under->mapFromGlobal(global));

@@ -19,7 +19,8 @@ void wait(int milliseconds);
 /// A press and its release; the release goes to what is there by then.
 void click(QWidget& widget, QPoint at, Qt::MouseButton button = Qt::LeftButton);
 void click(QWidget& widget);
-void doubleClick(QWidget& widget, QPoint at);
+/// `pause` is between the two clicks, in milliseconds.
+void doubleClick(QWidget& widget, QPoint at, int pause = 0);
 /// Presses at one place, moves in steps, and releases at the other.
 void drag(QWidget& widget, QPoint from, QPoint to);
 /// A finger on a touch screen, whose touch the toolkit makes a click of.

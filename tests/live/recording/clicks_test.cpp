@@ -80,18 +80,53 @@ TEST_F(Clicks, RightClicksAndKeysAreNoSteps)
 
 // Not the plain single click
 
-TEST_F(Clicks, ADoubleClickIsOneStepAndStaysADoubleClick)
+/// A list that notes which entries are double-clicked.
+class DoubleClicks : public RecordingTest {
+protected:
+  DoubleClicks()
+  {
+    list->setObjectName(QStringLiteral("list"));
+    list->addItems({QStringLiteral("one"), QStringLiteral("two")});
+    list->setGeometry(40, 120, 200, 120);
+    list->show();
+    QObject::connect(list, &QListWidget::itemDoubleClicked, list, [&](const QListWidgetItem* item) {
+      acts.push_back("double " + item->text().toStdString());
+    });
+  }
+
+  void doubleClickSecondEntry(int pause)
+  {
+    doubleClick(*list->viewport(), list->visualItemRect(list->item(1)).center(), pause);
+  }
+
+  QListWidget* list = new QListWidget(window);
+};
+
+TEST_F(DoubleClicks, AreOneStepAndStayDoubleClicks)
 {
-  auto* const list = new QListWidget(window);
-  list->setObjectName(QStringLiteral("list"));
-  list->addItems({QStringLiteral("one"), QStringLiteral("two")});
-  list->setGeometry(40, 120, 200, 120);
-  list->show();
-  QObject::connect(list, &QListWidget::itemDoubleClicked, list, [&](const QListWidgetItem* item) {
-    acts.push_back("double " + item->text().toStdString());
-  });
-  doubleClick(*list->viewport(), list->visualItemRect(list->item(1)).center());
+  doubleClickSecondEntry(0);
   EXPECT_THAT(acts, ElementsAre("double two"));
+  ASSERT_TRUE(annotate());
+  EXPECT_TRUE(nothingIsAsked());
+  EXPECT_THAT(steps(), ElementsAre("QListWidget#list 'two' @Main row 1: Here | Press it."));
+}
+
+TEST_F(DoubleClicks, AreOneStepAlsoWhenTheAnnotationComesBetweenTheirClicks)
+{
+  doubleClickSecondEntry(200);
+  EXPECT_THAT(acts, ElementsAre("double two"));
+  ASSERT_TRUE(popover());
+  ASSERT_TRUE(annotate());
+  EXPECT_TRUE(nothingIsAsked());
+  EXPECT_THAT(steps(), ElementsAre("QListWidget#list 'two' @Main row 1: Here | Press it."));
+}
+
+TEST_F(DoubleClicks, AreAskedAboutWhenTheirFirstClickHasClosedAnAnnotation)
+{
+  click(*save);
+  ASSERT_TRUE(waitUntil([] { return popover() != nullptr; }));
+  doubleClickSecondEntry(50);
+  EXPECT_THAT(acts, ElementsAre("Save", "double two"));
   ASSERT_TRUE(annotate());
   EXPECT_TRUE(nothingIsAsked());
   EXPECT_THAT(steps(), ElementsAre("QListWidget#list 'two' @Main row 1: Here | Press it."));

@@ -46,7 +46,9 @@ TEST_F(Embedded, AnElementWithinOneThatHasAWindowOfItsOwnIsAStep)
   area->show();
   content->setAttribute(Qt::WA_NativeWindow);
   content->winId();
-  ASSERT_TRUE(deep->nativeParentWidget() != window);
+  ASSERT_EQ(deep->nativeParentWidget(), content);
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(content->windowHandle()));
+  wait(50);
   click(*deep);
   EXPECT_THAT(acts, ElementsAre("Deep"));
   ASSERT_TRUE(annotate());

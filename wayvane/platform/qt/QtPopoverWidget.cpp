@@ -126,23 +126,28 @@ bool QtPopoverWidget::isOutside(QObject* receiver, QPoint global) const
   return receiver->isWindowType() && receiver != windowHandle() && !geometry().contains(global);
 }
 
-void QtPopoverWidget::dismissLater()
+void QtPopoverWidget::dismissLater(quint64 pressTime)
 {
   QMetaObject::invokeMethod(
       this,
-      [this, showing = showings_] {
-        if (showing == showings_) emit dismissed();
+      [this, pressTime, showing = showings_] {
+        if (showing != showings_) return;
+        const bool isSecondHalf = pressTime != 0 && pressTime == doubleClickTime_;
+        isSecondHalf ? activateWindow() : emit dismissed();
       },
       Qt::QueuedConnection);
 }
 
 bool QtPopoverWidget::eventFilter(QObject* watched, QEvent* event)
 {
+  const auto* mouse = event->isPointerEvent() ? dynamic_cast<QMouseEvent*>(event) : nullptr;
+  if (!mouse || !isVisible()) return false;
   const bool isPress =
       event->type() == QEvent::MouseButtonPress || event->type() == QEvent::NonClientAreaMouseButtonPress;
-  if (isPress && isVisible() &&
-      isOutside(watched, static_cast<QMouseEvent*>(event)->globalPosition().toPoint()))
-    dismissLater();
+  // It follows its press at once. What comes first is the click that brought the popover up, or has closed
+  // it.
+  if (event->type() == QEvent::MouseButtonDblClick) doubleClickTime_ = mouse->timestamp();
+  if (isPress && isOutside(watched, mouse->globalPosition().toPoint())) dismissLater(mouse->timestamp());
   return false;
 }
 

@@ -42,7 +42,8 @@ private:
   [[nodiscard]] QPainterPath shape() const;
   [[nodiscard]] QRect toWidget(const platform::Rect& frame) const;
   [[nodiscard]] bool isOutside(QObject* receiver, QPoint global) const;
-  void dismissLater();
+  /// `pressTime` is that of the press outside that is the reason; 0 for another one.
+  void dismissLater(quint64 pressTime = 0);
   bool pressKey(platform::PopoverButton::Key key);
 
   platform::Size contentSize_;
@@ -53,6 +54,7 @@ private:
   double arrowX_ = 0;
   /// How often it was shown: what ends one showing does not end the next.
   int showings_ = 0;
+  quint64 doubleClickTime_ = 0;
 };
 
 } // namespace wayvane::qt
