@@ -218,6 +218,10 @@ TEST_F(Views, TextComparisonsAgreeWithTheTextsAllOverAWindow)
     EXPECT_TRUE(view.classNameEquals(view.className()));
     EXPECT_TRUE(view.mayHave({platform::Feature::Identifier}) || !identifier) << view.className();
     EXPECT_TRUE(view.mayHave({platform::Feature::TitleOrLabel}) || !label) << view.className();
+    const auto* control = view.as<platform::Control>();
+    EXPECT_TRUE(view.mayHave({platform::Feature::Action}) || !control || !control->action());
+    const bool isEmpty = view.visitSubviews([](const platform::View&) { return false; });
+    EXPECT_TRUE(view.mayHave({platform::Feature::Subviews}) || isEmpty) << view.className();
     ++compared;
     return view.visitSubviews(compare);
   };

@@ -45,7 +45,8 @@ struct Search {
   bool operator()(const platform::View& view)
   {
     ++visited;
-    const bool matches = view.accessibilityIdentifierEquals(wanted) ||
+    const bool matches = view.accessibilityIdentifierEquals(wanted) || view.sendsAction(wanted) ||
+                         view.isTitled(wanted) || view.observedKeyPathEquals("value", wanted) ||
                          view.classNameEquals("NoSuchClassAnywhere") || view.isKind(ViewKind::TokenField);
     return !matches && view.visitSubviews(*this);
   }
@@ -70,6 +71,21 @@ TEST_F(Walking, ASearchThroughAWindowAllocatesNothing)
   search(*root);
   EXPECT_EQ(allocations - before, 0);
   EXPECT_GT(search.visited, 10);
+}
+
+TEST_F(Walking, AHandleLeadsToWhatItsElementGotLater)
+{
+  using platform::Feature;
+  const auto box = stage().addGroupBox(window(), {.frame = {0, 0, 300, 280}}, "Weather");
+  const auto button =
+      stage().addButton(window(), {.frame = {10, 10, 90, 24}, .inside = box}, {.title = "Plan"});
+  EXPECT_TRUE(box->mayHave({Feature::Subviews}));
+  bool found = false;
+  box->visitSubviews([&](const platform::View& view) {
+    found = found || view.isSame(*button);
+    return true;
+  });
+  EXPECT_TRUE(found);
 }
 
 } // namespace

@@ -12,6 +12,7 @@
 
 namespace wayvane::qt {
 
+using platform::Feature;
 using platform::HostProperty;
 
 /// A host's class that answers for all its elements.
@@ -79,6 +80,47 @@ TEST_F(Clues, AFieldIsLabelledByItsBuddy)
   EXPECT_FALSE(view->isTitled(SearchText("&Name:")));
   field->setAccessibleName(QStringLiteral("Family name"));
   EXPECT_THAT(view->accessibilityLabel(), Optional(std::string("Family name")));
+}
+
+/// Whether a walk over the widget and those beside it comes to it, titled so.
+bool isFoundByTitle(const QWidget* wanted, std::string_view title)
+{
+  const SearchText text(title);
+  bool found = false;
+  viewForWidget(wanted->parentWidget())->visitSubviews([&](const platform::View& view) {
+    found =
+        found || (widgetOf(view) == wanted && view.mayHave({Feature::TitleOrLabel}) && view.isTitled(text));
+    return true;
+  });
+  return found;
+}
+
+TEST_F(Clues, AWalkTakesTheBuddiesOfNow)
+{
+  auto* first = add<QLineEdit>(kPlace);
+  auto* second = add<QLineEdit>(kPlace);
+  auto* label = add<QLabel>(kPlace, QStringLiteral("&Name:"));
+  label->setBuddy(first);
+  EXPECT_TRUE(isFoundByTitle(first, "Name"));
+  label->setBuddy(second);
+  EXPECT_FALSE(isFoundByTitle(first, "Name"));
+  EXPECT_TRUE(isFoundByTitle(second, "Name"));
+  label->setText(QStringLiteral("Place"));
+  EXPECT_TRUE(isFoundByTitle(second, "Place"));
+}
+
+TEST_F(Clues, OfTwoLabelsTheFirstCountsAlsoAmongMany)
+{
+  std::vector<QLineEdit*> fields;
+  for (int i = 0; i < 60; ++i) {
+    auto* label = add<QLabel>(kPlace, QStringLiteral("Place %1:").arg(i));
+    fields.push_back(add<QLineEdit>(kPlace));
+    label->setBuddy(fields.back());
+  }
+  add<QLabel>(kPlace, QStringLiteral("Again"))->setBuddy(fields[41]);
+  EXPECT_TRUE(isFoundByTitle(fields[41], "Place 41"));
+  EXPECT_FALSE(isFoundByTitle(fields[41], "Again"));
+  EXPECT_THAT(viewForWidget(fields[59])->accessibilityLabel(), Optional(std::string("Place 59")));
 }
 
 TEST_F(Clues, SpinAndComboBoxesAreLabelledByTheirBuddiesToo)
