@@ -23,13 +23,13 @@ enum class SymbolImage : std::uint8_t { None, Play, Record, Stop };
 /// An entry of ours in a menu of the host's.
 struct MenuItemSpec {
   bool separator = false;
-  std::string title;
-  std::optional<std::string> toolTip;
+  std::string title{};
+  std::optional<std::string> toolTip{};
   SymbolImage image = SymbolImage::None;
   /// The name other parts know the command by, for instance "_playGuide:".
-  std::string action;
+  std::string action{};
   /// Called on the main thread when the user chooses the entry.
-  std::function<void()> onChosen;
+  std::function<void()> onChosen{};
 };
 
 /// An entry of a menu. A handle whose entry is gone answers with nothing. Main thread only.

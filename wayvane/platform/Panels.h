@@ -17,7 +17,8 @@ public:
   /// In screen coordinates.
   [[nodiscard]] virtual Rect frame() const = 0;
   virtual void setFrame(const Rect& frame) = 0;
-  /// Makes it a child of `window`, above it, and nothing's child when null.
+  /// Makes it a child of `window`, above it, and nothing's child when null. Where that window is on the
+  /// screen the panel comes on the screen with it, as if it were ordered front.
   virtual void attachToWindow(const WindowHandle& window) = 0;
   /// Null when it has none, or that window is gone.
   [[nodiscard]] virtual WindowHandle parentWindow() const = 0;
@@ -44,29 +45,29 @@ public:
 };
 
 struct PanelButtonSpec {
-  std::string title;
+  std::string title{};
   /// A quiet, inline look instead of the push button's.
   bool isInline = false;
-  std::function<void()> onClick;
+  std::function<void()> onClick{};
 };
 
 struct FloatingPanelSpec {
   /// The content's size; the origin comes with setFrame.
-  Size size;
+  Size size{};
   /// 3 floats above the program's windows, 25 above other floating panels.
   int level = 3;
-  Color background;
+  Color background{};
   double cornerRadius = 0;
   bool hasShadow = true;
   bool ignoresMouse = false;
   /// Dragging its background moves it.
   bool movable = false;
   /// For assistive technology.
-  std::string accessibilityTitle;
+  std::string accessibilityTitle{};
 };
 
 /// A small borderless panel of ours above the program's windows, which never becomes key. Buttons in it work
-/// while the program shows a modal dialog.
+/// while the program shows a modal dialog, and may release the panel.
 class FloatingPanel {
 public:
   virtual ~FloatingPanel() = default;
@@ -82,32 +83,37 @@ public:
 };
 
 struct PopoverField {
-  std::string identifier;
-  Rect frame;
-  std::string placeholder;
+  std::string identifier{};
+  Rect frame{};
+  std::string placeholder{};
   double fontSize = 12;
 };
 
 struct PopoverButton {
   enum class Key : std::uint8_t { None, Return, Escape };
-  std::string title;
-  Rect frame;
+  std::string title{};
+  Rect frame{};
   Key key = Key::None;
   /// Called before the popover closes, which every button does.
-  std::function<void()> onClick;
+  std::function<void()> onClick{};
 };
 
 /// A form in a popover. Frames in the content's coordinates, y up. Tab goes through the fields in their
 /// order.
 struct PopoverSpec {
-  Size contentSize;
-  std::vector<PopoverField> fields;
-  std::vector<PopoverButton> buttons;
+  Size contentSize{};
+  std::vector<PopoverField> fields{};
+  std::vector<PopoverButton> buttons{};
   /// Called once when the popover closes, however it closes; the fields can still be read.
-  std::function<void()> onClose;
+  std::function<void()> onClose{};
 };
 
-/// Semi-transient: a press outside closes it and still reaches the program.
+/// Semi-transient: a press outside closes it and still reaches the program. Open menus and lists of the
+/// program's take presses without closing it, and so does the second half of the double click that brought it
+/// up.
+///
+/// Destroying a shown popover takes it off the screen at once, and onClose is not called any more. It may be
+/// destroyed from its own callbacks.
 class Popover {
 public:
   virtual ~Popover() = default;
@@ -122,26 +128,26 @@ public:
 };
 
 struct AlertField {
-  Size size;
-  std::string value;
-  std::string placeholder;
+  Size size{};
+  std::string value{};
+  std::string placeholder{};
 };
 
 struct AlertSpec {
   enum class Style : std::uint8_t { Warning = 0, Informational = 1 };
   Style style = Style::Warning;
-  std::string messageText;
-  std::string informativeText;
+  std::string messageText{};
+  std::string informativeText{};
   /// The first is the default one.
-  std::vector<std::string> buttons;
+  std::vector<std::string> buttons{};
   /// A field below the text, which has the focus.
-  std::optional<AlertField> field;
+  std::optional<AlertField> field{};
 };
 
 struct AlertAnswer {
   /// The index of the button chosen; -1 when the alert ended in another way (closed, program quits).
   int button = -1;
-  std::string fieldText;
+  std::string fieldText{};
 };
 
 /// Makes the framework's own panels. A factory's answer is never null. Main thread only.

@@ -87,7 +87,7 @@ struct ScrollAnimation {
   /// Called once on the main thread when the position is reached, or when it cannot be any more because the
   /// view is gone or another scroll replaced this one. Never called before the function returns for a
   /// duration above 0; called before it returns for 0. May be empty.
-  std::function<void()> completion;
+  std::function<void()> completion{};
 };
 
 class ScrollView {
@@ -108,16 +108,16 @@ public:
 struct TableCell {
   bool isButton = false;
   /// The action the cell sends by itself.
-  std::optional<std::string> action;
-  std::string stringValue;
-  std::optional<std::string> accessibilityLabel;
-  ImageHandle image;
+  std::optional<std::string> action{};
+  std::string stringValue{};
+  std::optional<std::string> accessibilityLabel{};
+  ImageHandle image{};
 };
 
 /// A child of a row as assistive technology sees it.
 struct AccessibilityChild {
-  std::optional<Rect> screenFrame;
-  std::optional<std::string> label;
+  std::optional<Rect> screenFrame{};
+  std::optional<std::string> label{};
 };
 
 enum class MakeIfNecessary : bool { No, Yes };

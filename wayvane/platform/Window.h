@@ -6,16 +6,18 @@ namespace wayvane::platform {
 
 /// An entry of a window's tool bar.
 struct ToolbarItem {
-  std::optional<std::string> itemIdentifier;
-  std::optional<std::string> label;
-  std::optional<std::string> toolTip;
+  std::optional<std::string> itemIdentifier{};
+  std::optional<std::string> label{};
+  std::optional<std::string> toolTip{};
   /// Null when the entry has no view of its own, or it is not shown at the moment.
-  ViewHandle view;
+  ViewHandle view{};
 };
 
 /// A window of the host or of ours. Like a view handle, a window whose toolkit window is gone answers every
-/// question with nothing. Window coordinates: points, y up, origin at the bottom left of the window's frame.
-/// Screen coordinates: points, y up, origin at the bottom left of the primary screen. Main thread only.
+/// question with nothing. The window of a panel of ours leaves the screen with the panel, but may be gone
+/// only a turn of the main queue later, because it can be in the middle of an event. Window coordinates:
+/// points, y up, origin at the bottom left of the window's frame. Screen coordinates: points, y up, origin at
+/// the bottom left of the primary screen. Main thread only.
 class Window {
 public:
   virtual ~Window() = default;

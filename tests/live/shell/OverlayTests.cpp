@@ -268,6 +268,14 @@ TEST_F(QtOverlayPanel, PaintsNoBackgroundOfAGlobalStyleSheet)
   EXPECT_EQ(picture.pixelColor(250, 90), QColor(255, 0, 0));
 }
 
+TEST_F(QtOverlayPanel, ComesOnTheScreenWithTheWindowItIsAttachedTo)
+{
+  const auto other = wayvane().panels.makeOverlayPanel(handle()->frame(), 0);
+  EXPECT_FALSE(other->isVisible());
+  other->attachToWindow(handle());
+  EXPECT_TRUE(other->isVisible());
+}
+
 TEST_F(QtOverlayPanel, IsHiddenByOrderOutAndShownAgain)
 {
   cover();

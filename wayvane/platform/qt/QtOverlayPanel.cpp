@@ -121,6 +121,7 @@ void QtOverlayPanel::attachToWindow(const WindowHandle& window)
   if (!target && !widget_) return;
   // On a window the panel begins by covering all of it.
   if (target) frame_ = window->frame();
+  isOrdered_ = isOrdered_ || (target && target->isVisible());
   makeWidget(target);
 }
 
