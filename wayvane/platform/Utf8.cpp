@@ -64,6 +64,28 @@ void appendUtf8(std::string& text, char32_t character)
   byte(0x80 | (c & 0x3F));
 }
 
+std::optional<std::u16string> utf16FromUtf8(std::string_view bytes)
+{
+  std::u16string text;
+  while (!bytes.empty()) {
+    const std::size_t length = sequenceLength(bytes, 0);
+    if (length == 0) return std::nullopt;
+    // The first byte of a longer sequence begins with as many ones as there are bytes, and a zero.
+    const unsigned leadBits = length == 1 ? 0x7FU : 0x7FU >> length;
+    char32_t character = static_cast<unsigned char>(bytes[0]) & leadBits;
+    for (std::size_t i = 1; i < length; ++i)
+      character = (character << 6) | (static_cast<unsigned char>(bytes[i]) & 0x3FU);
+    bytes.remove_prefix(length);
+    if (character < 0x10000) {
+      text.push_back(static_cast<char16_t>(character));
+      continue;
+    }
+    text.push_back(static_cast<char16_t>(0xD800 + ((character - 0x10000) >> 10)));
+    text.push_back(static_cast<char16_t>(0xDC00 + ((character - 0x10000) & 0x3FF)));
+  }
+  return text;
+}
+
 std::optional<std::string> utf8FromUtf16(std::string_view bytes, ByteOrder order)
 {
   if (bytes.size() % 2 != 0) return std::nullopt;

@@ -12,6 +12,9 @@ namespace wayvane::platform {
 /// Appends a character; U+FFFD in place of a surrogate or of what lies above U+10FFFF.
 void appendUtf8(std::string& text, char32_t character);
 
+/// Nothing when the bytes are not well-formed.
+[[nodiscard]] std::optional<std::u16string> utf16FromUtf8(std::string_view bytes);
+
 enum class ByteOrder : bool { LittleEndian, BigEndian };
 
 /// UTF-16 as UTF-8; nothing when a surrogate stands alone or half a unit is left over.
