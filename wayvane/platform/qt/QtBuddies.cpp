@@ -3,6 +3,7 @@
 #include <wayvane/platform/qt/QtClasses.h>
 
 #include <QLabel>
+#include <QPointer>
 #include <QTextDocument>
 
 #include <algorithm>
@@ -19,7 +20,7 @@ namespace {
 struct Buddy {
   const QWidget* widget;
   std::size_t order;
-  const QLabel* label;
+  QPointer<const QLabel> label;
 
   [[nodiscard]] auto key() const { return std::tie(widget, order); }
 };

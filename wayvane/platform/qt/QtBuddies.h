@@ -25,8 +25,8 @@ extern std::uint64_t buddyMemory;
 
 } // namespace detail
 
-/// Which label is whose is found out for all labels beside a widget at once, and remembered during a walk: no
-/// tree changes while it is visited. Whoever holds a handle may come after any change, so a question to one
+/// Which label is whose is found out for all labels beside a widget at once, and remembered during a walk; a
+/// label that goes meanwhile is none. Whoever holds a handle may come after any change, so a question to one
 /// ends what is remembered.
 inline void forgetBuddies()
 {
